@@ -1,0 +1,83 @@
+// The faces of the macro manager and its small companions as data.
+//
+// Rectangles are client coordinates. Backgrounds and region strips are bitmap resources, other strips PNG
+// resources. The texts of labels that never change are part of the backgrounds.
+#pragma once
+
+#include <array>
+
+#include "macro_manager/dialog_control.h"
+
+namespace tarnix::manager {
+
+// Identifiers of the controls, which are the numbers of their messages.
+inline constexpr unsigned closeButton = 2004;
+inline constexpr unsigned okButton = 2010;
+inline constexpr unsigned cancelButton = 2011;
+inline constexpr unsigned newMacroButton = 2012;
+inline constexpr unsigned deleteMacroButton = 2013;
+inline constexpr unsigned setField = 2014;
+inline constexpr unsigned macroList = 2015;
+inline constexpr unsigned nameField = 2016; ///< the name editor of the macro list
+inline constexpr unsigned recordDelays = 2017;
+inline constexpr unsigned recordSwitch = 2018;
+inline constexpr unsigned actionList = 2020;
+inline constexpr unsigned macroScrollBar = 2021;
+inline constexpr unsigned actionScrollBar = 2022;
+/// The set's name in the two small dialogs.
+inline constexpr unsigned setNameField = 2012;
+
+// Messages of the manager's window.
+inline constexpr unsigned openSetList = 0x40D;     ///< [field, notification] the set field was clicked
+inline constexpr unsigned setListChosen = 0x41E;   ///< [field, row code]
+inline constexpr unsigned setListClosing = 0x41F;  ///< [field, 5] the list of sets lost activation
+inline constexpr unsigned runAddSet = 0x420;       ///< posted by the window to itself
+inline constexpr unsigned addSetByName = 0x421;    ///< [-, address of the name]
+inline constexpr unsigned deleteSetByName = 0x422; ///< [-, address of the name]
+inline constexpr unsigned runDeleteSet = 0x423;    ///< posted by the window to itself
+
+inline constexpr Size managerSize{715, 476};
+inline constexpr unsigned managerBackground = 181;
+/// The panel behind the action list and the recording controls, drawn over the background (a bitmap).
+inline constexpr unsigned managerPanel = 186;
+inline constexpr Rect managerPanelRect = Rect::at(220, 50, 481, 354);
+
+/// The panel says "Record delays" right of that box, the background titles both columns.
+inline constexpr std::array<DialogControl, 12> managerControls{{
+    row::region(closeButton, Rect::at(693, 7, 15, 16), 154, 155, {0, 0}),
+    row::region(okButton, Rect::at(497, 422, 98, 33), 162, 162, {0, 0}),
+    row::region(cancelButton, Rect::at(603, 422, 98, 33), 163, 163, {0, 0}),
+    row::strip(newMacroButton, DialogControlKind::ImageButton, Rect::at(25, 371, 70, 33), 267),
+    row::strip(deleteMacroButton, DialogControlKind::ImageButton, Rect::at(124, 371, 70, 33), 268),
+    row::combo(setField, Rect::at(25, 60, 169, 26), 266, openSetList),
+    row::plain(macroList, DialogControlKind::NameList, Rect::at(25, 98, 147, 260)),
+    row::strip(recordDelays, DialogControlKind::CheckButton, Rect::at(492, 151, 16, 16), 156),
+    row::strip(recordSwitch, DialogControlKind::CheckButton, Rect::at(492, 98, 120, 29), 189),
+    row::plain(actionList, DialogControlKind::ActionList, Rect::at(244, 98, 200, 280)),
+    row::plain(macroScrollBar, DialogControlKind::ScrollBar, Rect::at(173, 98, 21, 260)),
+    row::plain(actionScrollBar, DialogControlKind::ScrollBar, Rect::at(445, 98, 21, 280)),
+}};
+
+inline constexpr Size companionSize{305, 215};
+inline constexpr unsigned addSetBackground = 185;
+inline constexpr unsigned deleteSetBackground = 184;
+/// Says that a macro set must be chosen first.
+inline constexpr unsigned noteBackground = 195;
+/// Says that a macro must be chosen first.
+inline constexpr unsigned attentionBackground = 196;
+
+/// Both set-name dialogs. The field is white on 0x0B0B0B and has a frame painted around it.
+inline constexpr std::array<DialogControl, 4> setNameControls{{
+    row::region(closeButton, Rect::at(284, 7, 15, 16), 154, 155, {0, 0}),
+    row::region(okButton, Rect::at(52, 160, 98, 33), 162, 162, {0, 0}),
+    row::region(cancelButton, Rect::at(156, 160, 98, 33), 163, 163, {0, 0}),
+    row::plain(setNameField, DialogControlKind::EditField, Rect::at(42, 100, 221, 22)),
+}};
+
+/// The note and the attention dialog.
+inline constexpr std::array<DialogControl, 2> noticeControls{{
+    row::region(closeButton, Rect::at(284, 7, 15, 16), 154, 155, {0, 0}),
+    row::region(okButton, Rect::at(104, 160, 98, 33), 162, 162, {0, 0}),
+}};
+
+} // namespace tarnix::manager

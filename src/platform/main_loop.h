@@ -1,5 +1,5 @@
-// The user-interface thread's loop, for the parts of the platform that are no windows, and for other threads that
-// hand work to it.
+// The user-interface thread's loop, for the parts of the platform that are no windows, and for other threads
+// that hand work to it.
 #pragma once
 
 #include <functional>
@@ -11,7 +11,7 @@ namespace tarnix {
 
 class MainLoop {
   public:
-    /// Ends what it stands for (a watch or a timer) when destroyed.
+    /// Ends what it stands for (a watch or a timer) when destroyed, which its own callback may do too.
     class Subscription {
       public:
         virtual ~Subscription() = default;
@@ -26,4 +26,4 @@ class MainLoop {
     virtual void post(std::function<void()> work) = 0;
 };
 
-}  // namespace tarnix
+} // namespace tarnix

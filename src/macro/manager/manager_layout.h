@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "macro_manager/dialog_control.h"
+#include "skin/control_table.h"
 
 namespace tarnix::manager {
 
@@ -43,20 +43,22 @@ inline constexpr unsigned managerPanel = 186;
 inline constexpr Rect managerPanelRect = Rect::at(220, 50, 481, 354);
 
 /// The panel says "Record delays" right of that box, the background titles both columns.
-inline constexpr std::array<DialogControl, 12> managerControls{{
-    row::region(closeButton, Rect::at(693, 7, 15, 16), 154, 155, {0, 0}),
-    row::region(okButton, Rect::at(497, 422, 98, 33), 162, 162, {0, 0}),
-    row::region(cancelButton, Rect::at(603, 422, 98, 33), 163, 163, {0, 0}),
-    row::strip(newMacroButton, DialogControlKind::ImageButton, Rect::at(25, 371, 70, 33), 267),
-    row::strip(deleteMacroButton, DialogControlKind::ImageButton, Rect::at(124, 371, 70, 33), 268),
-    row::combo(setField, Rect::at(25, 60, 169, 26), 266, openSetList),
-    row::plain(macroList, DialogControlKind::NameList, Rect::at(25, 98, 147, 260)),
-    row::strip(recordDelays, DialogControlKind::CheckButton, Rect::at(492, 151, 16, 16), 156),
-    row::strip(recordSwitch, DialogControlKind::CheckButton, Rect::at(492, 98, 120, 29), 189),
-    row::plain(actionList, DialogControlKind::ActionList, Rect::at(244, 98, 200, 280)),
-    row::plain(macroScrollBar, DialogControlKind::ScrollBar, Rect::at(173, 98, 21, 260)),
-    row::plain(actionScrollBar, DialogControlKind::ScrollBar, Rect::at(445, 98, 21, 280)),
+inline constexpr std::array<ControlRow, 10> managerControls{{
+    regionButton(closeButton, Rect::at(693, 7, 15, 16), {154, 155, 0, 0, 15, 16}),
+    regionButton(okButton, Rect::at(497, 422, 98, 33), {162, 162, 0, 0, 98, 33}),
+    regionButton(cancelButton, Rect::at(603, 422, 98, 33), {163, 163, 0, 0, 98, 33}),
+    imageButton(newMacroButton, Rect::at(25, 371, 70, 33), 267),
+    imageButton(deleteMacroButton, Rect::at(124, 371, 70, 33), 268),
+    comboButton(setField, Rect::at(25, 60, 169, 26), 266, openSetList, "Disable"),
+    checkButton(recordDelays, Rect::at(492, 151, 16, 16), 156),
+    checkButton(recordSwitch, Rect::at(492, 98, 120, 29), 189),
+    scrollBar(macroScrollBar, Rect::at(173, 98, 21, 260)),
+    scrollBar(actionScrollBar, Rect::at(445, 98, 21, 280)),
 }};
+
+// The two lists, whose rectangles hold 13 and 14 rows.
+inline constexpr Rect macroListRect = Rect::at(25, 98, 147, 260);
+inline constexpr Rect actionListRect = Rect::at(244, 98, 200, 280);
 
 inline constexpr Size companionSize{305, 215};
 inline constexpr unsigned addSetBackground = 185;
@@ -66,18 +68,21 @@ inline constexpr unsigned noteBackground = 195;
 /// Says that a macro must be chosen first.
 inline constexpr unsigned attentionBackground = 196;
 
-/// Both set-name dialogs. The field is white on 0x0B0B0B and has a frame painted around it.
-inline constexpr std::array<DialogControl, 4> setNameControls{{
-    row::region(closeButton, Rect::at(284, 7, 15, 16), 154, 155, {0, 0}),
-    row::region(okButton, Rect::at(52, 160, 98, 33), 162, 162, {0, 0}),
-    row::region(cancelButton, Rect::at(156, 160, 98, 33), 163, 163, {0, 0}),
-    row::plain(setNameField, DialogControlKind::EditField, Rect::at(42, 100, 221, 22)),
+/// The native field of both set-name dialogs: white on 0x0B0B0B, in a frame that the backgrounds paint.
+inline constexpr Rect setNameRect = Rect::at(42, 100, 221, 22);
+inline constexpr Color setNameGround = 0x0B0B0B;
+
+/// Both set-name dialogs.
+inline constexpr std::array<ControlRow, 3> setNameControls{{
+    regionButton(closeButton, Rect::at(284, 7, 15, 16), {154, 155, 0, 0, 15, 16}),
+    regionButton(okButton, Rect::at(52, 160, 98, 33), {162, 162, 0, 0, 98, 33}),
+    regionButton(cancelButton, Rect::at(156, 160, 98, 33), {163, 163, 0, 0, 98, 33}),
 }};
 
 /// The note and the attention dialog.
-inline constexpr std::array<DialogControl, 2> noticeControls{{
-    row::region(closeButton, Rect::at(284, 7, 15, 16), 154, 155, {0, 0}),
-    row::region(okButton, Rect::at(104, 160, 98, 33), 162, 162, {0, 0}),
+inline constexpr std::array<ControlRow, 2> noticeControls{{
+    regionButton(closeButton, Rect::at(284, 7, 15, 16), {154, 155, 0, 0, 15, 16}),
+    regionButton(okButton, Rect::at(104, 160, 98, 33), {162, 162, 0, 0, 98, 33}),
 }};
 
 } // namespace tarnix::manager

@@ -17,8 +17,9 @@ class Application {
     Application& operator=(const Application&) = delete;
 
     MainLoop& mainLoop();
-    /// The user-interface thread's clock. A pause serves expose events alone: input, messages, timers, hot-plug, tray
-    /// and accessibility actions are kept and delivered in order once the work that paused is done.
+    /// The user-interface thread's clock. A pause serves expose events alone: input, messages, timers,
+    /// hot-plug, tray and accessibility actions are kept and delivered in order once the work that paused is
+    /// done.
     Clock& clock();
     /// Calls back when the session asks the program to end.
     void onQuitRequest(std::function<void()> callback);
@@ -28,4 +29,4 @@ class Application {
     std::unique_ptr<Native> m_native;
 };
 
-}  // namespace tarnix
+} // namespace tarnix

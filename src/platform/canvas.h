@@ -52,8 +52,8 @@ class Canvas {
     virtual ~Canvas() = default;
 
     virtual void fill(const Rect& area, Color color) = 0;
-    /// Copies `source` of the image over `target`, stretched to it, with per-pixel alpha. `opacity` (0 to 255)
-    /// weakens the whole copy.
+    /// Copies `source` of the image over `target`, stretched to it, with per-pixel alpha. `opacity` (0 to
+    /// 255) weakens the whole copy.
     virtual void draw(const Image& image, const Rect& source, const Rect& target, int opacity = 255) = 0;
     /// Copies `source` at its own size to `target`, leaving out every pixel of the key colour.
     virtual void drawKeyed(const Image& image, const Rect& source, Point target, Color key) = 0;
@@ -73,4 +73,4 @@ class Surface {
 /// A surface of the given size, black at first. Never none.
 std::unique_ptr<Surface> makeSurface(Size size);
 
-}  // namespace tarnix
+} // namespace tarnix

@@ -36,4 +36,4 @@ class EditField {
     std::unique_ptr<Native> m_native;
 };
 
-}  // namespace tarnix
+} // namespace tarnix

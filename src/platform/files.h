@@ -1,7 +1,7 @@
 // Text files, read and replaced as wholes.
 //
-// Paths are narrow texts as the user, the desktop or a file gave them. A path is opened as it stands if that file
-// exists, else with its backslashes read as slashes.
+// Paths are narrow texts as the user, the desktop or a file gave them. A path is opened as it stands if that
+// file exists, else with its backslashes read as slashes.
 #pragma once
 
 #include <cstddef>
@@ -18,16 +18,18 @@ class Files {
     static constexpr std::size_t maxFileSize = std::size_t{32} << 20;
 
     virtual ~Files() = default;
-    /// The whole file; none if it cannot be opened, is no regular file, cannot be read to its end, or is too large.
+    /// The whole file; none if it cannot be opened, is no regular file, cannot be read to its end, or is too
+    /// large.
     virtual std::optional<std::string> read(const std::string& path) = 0;
-    /// Replaces the file as a whole: written beside the target, flushed to the disk, renamed over it. A missing last
-    /// folder of the path is created. False, with the old file untouched, when any step fails.
+    /// Replaces the file as a whole: written beside the target, flushed to the disk, renamed over it. A
+    /// missing last folder of the path is created. False, with the old file untouched, when any step fails.
     virtual bool replace(const std::string& path, std::string_view text) = 0;
-    /// Moves a refused file to NAME.bak beside itself, in place of an older one. True when no file is left at `path`.
+    /// Moves a refused file to NAME.bak beside itself, in place of an older one. True when no file is left at
+    /// `path`.
     virtual bool setAside(const std::string& path) = 0;
 };
 
 /// The files of this system.
 std::unique_ptr<Files> makeSystemFiles();
 
-}  // namespace tarnix
+} // namespace tarnix

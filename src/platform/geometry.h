@@ -24,9 +24,7 @@ struct Rect {
     int right = 0;
     int bottom = 0;
 
-    static constexpr Rect at(int x, int y, int width, int height) {
-        return {x, y, x + width, y + height};
-    }
+    static constexpr Rect at(int x, int y, int width, int height) { return {x, y, x + width, y + height}; }
 
     constexpr int width() const { return right - left; }
     constexpr int height() const { return bottom - top; }
@@ -45,4 +43,4 @@ struct Rect {
     bool operator==(const Rect&) const = default;
 };
 
-}  // namespace tarnix
+} // namespace tarnix

@@ -26,4 +26,4 @@ Resources& resources();
 /// Puts another source in place, none for the built-in one; the caller keeps it alive.
 void setResources(Resources* source);
 
-}  // namespace tarnix
+} // namespace tarnix

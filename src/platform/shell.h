@@ -13,7 +13,8 @@ namespace tarnix {
 
 class Window;
 
-/// An open or save dialog. `filter` is text and pattern with a bar between, e.g. "psf file(*.psf)|*.psf"; "All files
+/// An open or save dialog. `filter` is text and pattern with a bar between, e.g. "psf file(*.psf)|*.psf";
+/// "All files
 /// (*)" is offered after it.
 struct FileDialog {
     std::string title;
@@ -33,8 +34,9 @@ class Shell {
     virtual std::optional<std::string> saveFile(const FileDialog& dialog, Window& owner) = 0;
     /// Hands an http, https or mailto address to the desktop's opener.
     virtual void openLink(const std::string& address) = 0;
-    /// Starts what a G-key names: an executable regular file by absolute path, without arguments and without a shell;
-    /// another existing absolute path or an http(s) address through the desktop's opener; anything else does nothing.
+    /// Starts what a G-key names: an executable regular file by absolute path, without arguments and without
+    /// a shell; another existing absolute path or an http(s) address through the desktop's opener; anything
+    /// else does nothing.
     virtual void launch(const std::string& target) = 0;
 };
 
@@ -46,8 +48,8 @@ struct MenuItem {
     unsigned command = 0;
 };
 
-/// The icon in the notification area; taken away when destroyed. It is added again by itself when the desktop's
-/// notification area starts after the program.
+/// The icon in the notification area; taken away when destroyed. It is added again by itself when the
+/// desktop's notification area starts after the program.
 class TrayIcon {
   public:
     struct Callbacks {
@@ -59,10 +61,11 @@ class TrayIcon {
     virtual bool available() const = 0;
 };
 
-std::unique_ptr<TrayIcon> makeTrayIcon(const Image& icon, const std::string& tip, const std::vector<MenuItem>& menu,
-                                       TrayIcon::Callbacks callbacks);
+std::unique_ptr<TrayIcon> makeTrayIcon(const Image& icon, const std::string& tip,
+                                       const std::vector<MenuItem>& menu, TrayIcon::Callbacks callbacks);
 
-/// A named lock of this user's session, released when destroyed and by the end of the process, however it ends.
+/// A named lock of this user's session, released when destroyed and by the end of the process, however it
+/// ends.
 class InstanceLock {
   public:
     virtual ~InstanceLock() = default;
@@ -71,9 +74,9 @@ class InstanceLock {
 /// None when another process holds the lock.
 std::unique_ptr<InstanceLock> acquireInstanceLock(const std::string& name);
 
-/// The folder that holds the program's `config` folder, with a trailing slash: the executable's own folder where the
-/// user may write there and it is no installation's bin folder, else the per-user folder below the XDG configuration
-/// home.
+/// The folder that holds the program's `config` folder, with a trailing slash: the executable's own folder
+/// where the user may write there and it is no installation's bin folder, else the per-user folder below the
+/// XDG configuration home.
 std::string programFolder();
 
-}  // namespace tarnix
+} // namespace tarnix

@@ -1,11 +1,11 @@
 // Top-level windows of the desktop: skinned dialogs, popup lists and the on-screen display.
 //
-// A Window is the native window and the hook points for what happens to it. Everything runs on the user-interface
-// thread but `post`. Coordinates are pixels at 100 %; client coordinates start at the window's top left corner, for
-// no window has a frame of the desktop's.
+// A Window is the native window and the hook points for what happens to it. Everything runs on the
+// user-interface thread but `post`. Coordinates are pixels at 100 %; client coordinates start at the window's
+// top left corner, for no window has a frame of the desktop's.
 //
-// Numbered messages carry two machine words and belong to the class of the window that gets them: the same number
-// means different things in different windows.
+// Numbered messages carry two machine words and belong to the class of the window that gets them: the same
+// number means different things in different windows.
 #pragma once
 
 #include <cstdint>
@@ -109,9 +109,11 @@ class Window {
     // Pointer and keyboard.
     void captureMouse();
     void releaseMouse();
-    /// Asks for one OnMouseLeave, and for OnMouseHover once the pointer has rested for `hoverTime` ms. True if granted.
+    /// Asks for one OnMouseLeave, and for OnMouseHover once the pointer has rested for `hoverTime` ms. True
+    /// if granted.
     bool trackMouse(int hoverTime);
-    /// Starts moving the window with the pointer, whose button is down. The release that ends it reaches no control.
+    /// Starts moving the window with the pointer, whose button is down. The release that ends it reaches no
+    /// control.
     void startMove();
     void setFocus();
 
@@ -128,8 +130,8 @@ class Window {
     void postClose();
 
     // Modal run.
-    /// Shows the window, lets the user work in it (and in windows that it owns) alone, and destroys it. The answer is
-    /// the one of endModal.
+    /// Shows the window, lets the user work in it (and in windows that it owns) alone, and destroys it. The
+    /// answer is the one of endModal.
     int runModal();
     void endModal(int result);
 
@@ -137,8 +139,8 @@ class Window {
     struct Native;
     Native* native() const { return m_native.get(); }
 
-    // What happens to the window. The defaults do nothing unless said otherwise. `flags` are the key and button flags
-    // of the Win32 mouse messages.
+    // What happens to the window. The defaults do nothing unless said otherwise. `flags` are the key and
+    // button flags of the Win32 mouse messages.
     virtual void OnPaint(Canvas& canvas, const Rect& dirty);
     virtual void OnMouseMove(unsigned flags, Point at);
     virtual void OnLButtonDown(unsigned flags, Point at);
@@ -164,4 +166,4 @@ class Window {
     std::unique_ptr<Native> m_native;
 };
 
-}  // namespace tarnix
+} // namespace tarnix

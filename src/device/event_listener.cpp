@@ -1,0 +1,114 @@
+#include "device/event_listener.h"
+
+#include <algorithm>
+#include <atomic>
+#include <utility>
+#include <vector>
+
+namespace tarnix {
+
+namespace {
+
+/// No HID transport delivers longer reports; a descriptor that claims one must not make us allocate it.
+constexpr std::size_t maxReportLength = 4096;
+
+/// Reports that may wait for the user-interface thread. A device that floods it is read no faster than it is
+/// heard.
+constexpr int maxWaiting = 4096;
+
+} // namespace
+
+/// What one listener thread shares with the user-interface thread.
+struct EventListener::Mailbox {
+    std::atomic<int> waiting{0};
+    std::atomic<bool> stopping{false};
+    bool startAgain = false; ///< user-interface thread only
+    HidInterface next;       ///< the same; what to open then
+
+    void waitForRoom() {
+        for (int count = waiting.load(); count >= maxWaiting && !stopping.load(); count = waiting.load()) {
+            waiting.wait(count);
+        }
+    }
+
+    void removeOne() {
+        waiting.fetch_sub(1);
+        waiting.notify_one();
+    }
+
+    /// The count changes with it: a thread that waits on the count wakes only when it has changed.
+    void stop() {
+        stopping.store(true);
+        removeOne();
+    }
+};
+
+EventListener::EventListener(Hid& hid, MainLoop& loop, Handler handler)
+    : m_hid(hid),
+      m_loop(loop),
+      m_handler(std::move(handler)),
+      m_self(std::make_shared<EventListener*>(this)) {}
+
+EventListener::~EventListener() {
+    close();
+}
+
+void EventListener::start(const HidInterface& interface) {
+    if (m_thread.joinable() && interface.path == m_path) {
+        m_mailbox->startAgain = true;
+        m_mailbox->next = interface;
+        return;
+    }
+    stop();
+    run(interface);
+}
+
+void EventListener::run(const HidInterface& interface) {
+    m_device = m_hid.open(interface.path);
+    if (!m_device) return;
+    m_path = interface.path;
+    m_mailbox = std::make_shared<Mailbox>();
+    // Byte 0 is the report id; what the keyboard leaves unfilled reads FF, and is not filled again between
+    // reads.
+    std::vector<std::uint8_t> report(std::min(interface.inputReportLength, maxReportLength), 0xFF);
+    if (!report.empty()) report[0] = 0;
+    m_thread = std::thread([&loop = m_loop, device = m_device, mailbox = m_mailbox, self = m_self,
+                            report = std::move(report)]() mutable {
+        while (device->read(report) == HidDevice::ReadResult::Report) {
+            mailbox->waitForRoom();
+            if (mailbox->stopping.load()) return;
+            mailbox->waiting.fetch_add(1);
+            loop.post([mailbox, self, report] {
+                mailbox->removeOne();
+                if (EventListener* listener = *self) listener->m_handler(report);
+            });
+        }
+        loop.post([mailbox, self] {
+            if (EventListener* listener = *self) listener->onEnded(mailbox);
+        });
+    });
+}
+
+void EventListener::onEnded(const std::shared_ptr<Mailbox>& mailbox) {
+    if (mailbox != m_mailbox) return; // another one runs by now
+    const bool again = mailbox->startAgain;
+    const HidInterface next = mailbox->next;
+    stop();
+    if (again) run(next);
+}
+
+void EventListener::stop() {
+    if (!m_thread.joinable()) return;
+    m_mailbox->stop();
+    m_device->stop();
+    m_thread.join();
+    m_device.reset();
+    m_mailbox.reset();
+}
+
+void EventListener::close() {
+    stop();
+    *m_self = nullptr;
+}
+
+} // namespace tarnix

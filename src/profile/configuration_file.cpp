@@ -1,0 +1,67 @@
+#include "profile/configuration_file.h"
+
+#include "profile/numbers.h"
+
+namespace tarnix {
+
+namespace {
+
+constexpr std::string_view header = "[Setting]";
+
+std::string configurationPath(const std::string& programFolder) {
+    return programFolder + "config\\config.ini";
+}
+
+} // namespace
+
+std::optional<FileError> parseConfiguration(std::string_view text, ConfigPairs& pairs) {
+    LineReader lines(text);
+    if (lines.next() != header) return lines.refuse("the first line is not [Setting]");
+    for (SettingPair& pair : pairs) {
+        const auto line = lines.next();
+        if (!line) return std::nullopt;
+        const auto parts = splitAtEquals(*line);
+        if (!parts || parts->key.empty() || parts->value.empty())
+            return lines.refuse("not of the form key=value");
+        pair = {std::string(parts->key), std::string(parts->value)};
+    }
+    if (lines.next()) return lines.refuse("more lines than the six settings");
+    return std::nullopt;
+}
+
+std::string formatConfiguration(const ConfigPairs& pairs) {
+    std::string text;
+    appendLine(text, header);
+    for (const SettingPair& pair : pairs)
+        appendLine(text, pair.Key + '=' + pair.Value);
+    return text;
+}
+
+bool LoadConfig(ProfileStore& store, Files& files, const std::string& programFolder) {
+    const std::string path = configurationPath(programFolder);
+    const auto text = files.read(path);
+    if (text && !parseConfiguration(*text, store.ConfigTable)) return true;
+    ResetConfig(store, programFolder);
+    if (files.setAside(path)) SaveConfig(store, files, programFolder);
+    return false;
+}
+
+bool SaveConfig(const ProfileStore& store, Files& files, const std::string& programFolder) {
+    return files.replace(configurationPath(programFolder), formatConfiguration(store.ConfigTable));
+}
+
+void ResetConfig(ProfileStore& store, const std::string& programFolder) {
+    store.ConfigTable[0] = {"CurrentProfile", "0"};
+    for (int slot = 0; slot < profileCount; ++slot) {
+        const std::string number = toText(slot);
+        store.ConfigTable[static_cast<std::size_t>(1 + slot)] = {
+            "ProfileSlot" + number + "URL", programFolder + "config\\default" + number + ".psf"};
+    }
+}
+
+bool SaveCurrentProfile(ProfileStore& store, Files& files, const std::string& programFolder) {
+    store.SetCurrentProfileText(DisplayedProfile);
+    return SaveConfig(store, files, programFolder);
+}
+
+} // namespace tarnix

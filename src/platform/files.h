@@ -21,8 +21,10 @@ class Files {
     /// The whole file; none if it cannot be opened, is no regular file, cannot be read to its end, or is too
     /// large.
     virtual std::optional<std::string> read(const std::string& path) = 0;
-    /// Replaces the file as a whole: written beside the target, flushed to the disk, renamed over it. A
-    /// missing last folder of the path is created. False, with the old file untouched, when any step fails.
+    /// Replaces the file as a whole: written beside the target, flushed to the disk, renamed over it. A link
+    /// stays and its target is replaced; permissions stay. Missing folders of an absolute path are created.
+    /// False, with the old file untouched, when any step fails, and for what is there but no regular file or
+    /// not to be written.
     virtual bool replace(const std::string& path, std::string_view text) = 0;
     /// Moves a refused file to NAME.bak beside itself, in place of an older one. True when no file is left at
     /// `path`.

@@ -1,6 +1,7 @@
 #include "device/device_link.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -37,16 +38,19 @@ std::optional<HidInterface> interfaceAt(Hid& hid, int index) {
 DeviceLink::DeviceLink(const Surroundings& surroundings)
     : m_hid(surroundings.hid),
       m_clock(surroundings.clock),
+      m_loop(surroundings.loop),
       m_storage(surroundings.storage),
       m_owner(surroundings.owner),
       m_protocol(surroundings.clock, m_storage.store, m_storage.macros),
       m_events(m_protocol, m_storage, m_owner),
       m_listener(surroundings.hid, surroundings.loop,
-                 [this](std::span<const std::uint8_t> report) { m_events.dispatch(report); }) {}
+                 [this](std::span<const std::uint8_t> report) { m_events.dispatch(report); }),
+      m_self(std::make_shared<DeviceLink*>(this)) {}
 
 DeviceLink::~DeviceLink() {
     close();
     m_hid.onChange([](HidChange) {});
+    *m_self = nullptr;
 }
 
 void DeviceLink::InitDeviceLink() {
@@ -111,13 +115,16 @@ void DeviceLink::OnDeviceChange(HidChange change) {
     }
 }
 
-/// The notice may be modal, and the keyboard may come and go again while it is open.
+/// The notice is modal, so it is left to the loop: arrivals and removals go on being heard while it is open.
 void DeviceLink::onDisconnected() {
     m_bNeedFullRead = true;
     m_protocol.setHandle(nullptr);
     if (std::exchange(m_noticeOpen, true)) return;
-    m_owner.showDisconnectedNotice();
-    m_noticeOpen = false;
+    m_loop.post([self = m_self] {
+        if (*self == nullptr || (*self)->m_closed) return;
+        (*self)->m_owner.showDisconnectedNotice();
+        if (*self != nullptr) (*self)->m_noticeOpen = false;
+    });
 }
 
 void DeviceLink::ReadDeviceState() {

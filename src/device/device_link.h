@@ -3,7 +3,7 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
+#include <memory>
 
 #include "device/device_events.h"
 #include "device/device_observer.h"
@@ -67,6 +67,7 @@ class DeviceLink {
 
     Hid& m_hid;
     Clock& m_clock;
+    MainLoop& m_loop;
     DeviceStorage m_storage;
     DeviceObserver& m_owner;
 
@@ -74,6 +75,7 @@ class DeviceLink {
     PendingWrites m_pending;
     DeviceEvents m_events;
     EventListener m_listener;
+    std::shared_ptr<DeviceLink*> m_self; ///< for posted work, which may outlive the link
 
     bool m_bDeviceFound = false;
     bool m_bNeedFullRead = true;

@@ -28,8 +28,8 @@ class DeviceObserver {
     virtual void launchGKeyUrl(const std::string& url) = 0;
     /// Macros of the main library were added or replaced.
     virtual void onMacrosChanged() = 0;
-    /// The keyboard was unplugged. May be modal: the device link takes further notices meanwhile and calls
-    /// this again only after it has returned.
+    /// The keyboard was unplugged. Called from the loop and may be modal: the link goes on working meanwhile,
+    /// and calls this again only after it has returned.
     virtual void showDisconnectedNotice() = 0;
 };
 

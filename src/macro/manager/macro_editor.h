@@ -61,10 +61,10 @@ class MacroEditor {
     MacroEditor(const MacroEditor&) = delete;
     MacroEditor& operator=(const MacroEditor&) = delete;
 
-    /// Looks the controls up; the window has built them all by now.
-    void attach();
     /// Enters the handlers of the controls above and of the key hook.
     void registerHandlers(MessageMap& map);
+    /// Looks the controls up; the window has built them all by now.
+    void attach();
 
     CEditShowList& macros() { return *m_macros; }
     CImageShowList& actions() { return *m_actions; }
@@ -82,8 +82,6 @@ class MacroEditor {
     bool isNaming() const;
     /// Ends naming by a click elsewhere or by Enter.
     void commitName();
-    /// Ends naming with nothing added. False when no field was open.
-    bool cancelName();
     /// The button went down in the window; before the window's own handling.
     void pressAt(Point at);
     void deleteMacro();
@@ -118,6 +116,7 @@ class MacroEditor {
     std::optional<MacroRefusal> nameFault(std::string_view name) const;
     void startRecording(MacroKey& macro);
     void showLastAction();
+    void endFullRecording(std::string_view notice);
     void setRecordingLook(bool recording);
 
     CDlgBase& m_window;

@@ -70,6 +70,7 @@ inline constexpr unsigned attentionBackground = 196;
 
 /// The native field of both set-name dialogs: white on 0x0B0B0B, in a frame that the backgrounds paint.
 inline constexpr Rect setNameRect = Rect::at(42, 100, 221, 22);
+inline constexpr Color setNameText = 0xFFFFFF;
 inline constexpr Color setNameGround = 0x0B0B0B;
 
 /// Both set-name dialogs.

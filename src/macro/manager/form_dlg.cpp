@@ -1,0 +1,24 @@
+#include "macro_manager/form_dlg.h"
+
+#include "macro_manager/manager_layout.h"
+
+namespace tarnix {
+
+CFormDlg::CFormDlg(const DialogForm& form, Window* owner)
+    : CDlgBase({.owner = owner, .role = form.role}, form.size), m_form(form) {
+    m_messages.onClick(manager::closeButton, [this] { OnCancel(); }).onClick(manager::cancelButton, [this] {
+        OnCancel();
+    });
+}
+
+void CFormDlg::OnInitDialog() {
+    CDlgBase::OnInitDialog();
+    if (m_form.shaped) SetShapeFromBitmap(m_form.background);
+    LoadBackground(m_form.background);
+}
+
+void CFormDlg::BuildControls(const Rect& client) {
+    addControls(0, m_form.controls, client.topLeft());
+}
+
+} // namespace tarnix

@@ -1,0 +1,92 @@
+#include "ui/shortcut_dlg.h"
+
+#include <string>
+
+#include "profile/vocabulary.h"
+#include "ui/dialog_layouts.h"
+#include "ui/messages.h"
+
+namespace tarnix {
+
+using namespace dialog;
+
+namespace {
+
+struct Modifier {
+    unsigned box;
+    const char* text;
+    std::uint8_t bit; ///< in parameter 1 of a key combination
+};
+
+/// In the order in which a combination is written.
+constexpr Modifier modifiers[] = {
+    {shortcut::ctrl, "Ctrl+", 0x01},
+    {shortcut::shift, "Shift+", 0x02},
+    {shortcut::alt, "Alt+", 0x04},
+    {shortcut::win, "Win+", 0x08},
+};
+
+} // namespace
+
+CShortcutDlg::CShortcutDlg(Window* owner)
+    : CFormDlg({"CShortcutDlg", shortcut::size, shortcut::background, shortcut::controls, true}, owner) {
+    m_messages.onClick(okButton, [this] { accept(); })
+        .onClick(shortcut::singleKey, [this] { enableModifiers(); })
+        .on(WM_KEYHOOK, [this](WParam key, LParam) { captureKey(static_cast<std::uint8_t>(key)); });
+}
+
+void CShortcutDlg::OnInitDialog() {
+    CFormDlg::OnInitDialog();
+    m_hook.StartHook(*this);
+}
+
+void CShortcutDlg::OnDestroy() {
+    m_hook.StopHook();
+    CFormDlg::OnDestroy();
+}
+
+bool CShortcutDlg::OnKey(const KeyPress&) {
+    return true;
+}
+
+void CShortcutDlg::captureKey(std::uint8_t virtualKey) {
+    m_record.text = VirtualKeyName(virtualKey);
+    m_record.bytes[2] = ToKeyCode(virtualKey);
+    auto* label = control<CStaticText>(shortcut::keyName);
+    label->m_strLabel = m_record.text;
+    label->repaint();
+}
+
+void CShortcutDlg::enableModifiers() {
+    const bool single = control<CCheckButton>(shortcut::singleKey)->m_bChecked;
+    for (const Modifier& modifier : modifiers) {
+        auto* box = control<CCheckButton>(modifier.box);
+        box->m_bDisabled = single;
+        box->repaint();
+    }
+}
+
+/// Puts the checked modifiers in front of the key's name and into the record's bytes.
+void CShortcutDlg::takeModifiers() {
+    m_record.bytes[0] = static_cast<std::uint8_t>(FunctionType::KeyCombination);
+    m_record.bytes[1] = 0;
+    if (control<CCheckButton>(shortcut::singleKey)->m_bChecked) return;
+    std::string name;
+    for (const Modifier& modifier : modifiers) {
+        if (!control<CCheckButton>(modifier.box)->m_bChecked) continue;
+        name += modifier.text;
+        m_record.bytes[1] |= modifier.bit;
+    }
+    m_record.text = name + m_record.text;
+}
+
+void CShortcutDlg::accept() {
+    if (owner()) {
+        takeModifiers();
+        if (m_record.text.ends_with('+')) m_record.text.pop_back();
+        if (!m_record.text.empty()) sendSelection(*owner(), msg::shortcutChosen, 0, m_record);
+    }
+    OnCancel();
+}
+
+} // namespace tarnix

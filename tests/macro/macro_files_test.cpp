@@ -1,0 +1,216 @@
+#include "macro/macro_files.h"
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+
+#include "support/memory_files.h"
+
+namespace tarnix {
+namespace {
+
+using testing::HasSubstr;
+
+const std::string folder = "/k/";
+const std::string path = "/k/config\\MacroLibraryFile.mlf";
+const std::string defaultText =
+    "[MacroLibrary]\nMacroSetNum=1\n\tMacroSet0Name=Keyboard Macro Set\n\t\tMacroKeyNum=0\n";
+const std::string unused(1600 - 16, '0');
+const std::string fireText =
+    "[MacroLibrary]\nMacroSetNum=2\n\tMacroSet0Name=Keyboard Macro Set\n\t\tMacroKeyNum=0\n"
+    "\tMacroSet1Name=Games\n\t\tMacroKeyNum=1\n\t\tMacroKey0Name=Fire\n\t\t\tMacroKey0LoopEnable=0\n"
+    "\t\t\tMacroKey0LoopNum=255\n\t\t\tMacroActionNum=2\n\t\t\tMacroCommandActionNum=1\n"
+    "\t\t\tAllAction=4180000003011170" +
+    unused + "\n";
+const std::string fireKeyText =
+    "[MacroKey]\n\tMacroKeyLoopEnable=0\n\tMacroKeyLoopNum=255\n\tMacroActionNum=2\n\tMacroCommandActionNum="
+    "1\n"
+    "\t\tAllAction=4180000003011170" +
+    unused + "\n";
+
+MacroLibrary fireLibrary() {
+    MacroLibrary library;
+    resetMacroLibrary(library);
+    MacroKey& macro = AddMacroKey(AddMacroSet(library, "Games"), "Fire");
+    macro.loopEnable = 0;
+    macro.loopCount = 255;
+    AppendAction(macro, MacroAction::key(0x41, true));
+    AppendAction(macro, MacroAction::delay(70000));
+    macro.commandCount = 1;
+    return library;
+}
+
+std::string replaced(std::string text, const std::string& what, const std::string& with) {
+    const auto at = text.find(what);
+    EXPECT_NE(at, std::string::npos) << what;
+    return text.replace(at, what.size(), with);
+}
+
+std::optional<std::size_t> refusedLine(const std::string& text, LibraryForm form = LibraryForm::Long) {
+    MacroLibrary library = fireLibrary();
+    const auto error = parseMacroLibrary(text, form, library);
+    if (!error) return std::nullopt;
+    EXPECT_EQ(library, MacroLibrary{});
+    return error->line;
+}
+
+TEST(MacroFiles, FormsAreWrittenByteByByteAndComeBack) {
+    const MacroLibrary library = fireLibrary();
+    EXPECT_EQ(formatMacroLibrary(library, LibraryForm::Long), fireText);
+    EXPECT_EQ(formatMacroKey(library.sets[1].keys[0]), fireKeyText);
+
+    MacroLibrary read;
+    EXPECT_FALSE(parseMacroLibrary(fireText + "[more]\n", LibraryForm::Long, read));
+    EXPECT_EQ(read, library);
+    MacroKey key;
+    key.name = "Fire";
+    EXPECT_FALSE(parseMacroKey(fireKeyText, key));
+    EXPECT_EQ(key, library.sets[1].keys[0]);
+
+    const std::string shortText = formatMacroLibrary(library, LibraryForm::Short);
+    EXPECT_THAT(shortText,
+                HasSubstr("\t\tMacroKey0Name=Fire\n\t\t\tMacroActionNum=2\n\t\t\tAllAction=41800000"));
+    EXPECT_FALSE(parseMacroLibrary(shortText, LibraryForm::Short, read));
+    EXPECT_EQ(read.sets[1].keys[0].usedActions().size(), 2u);
+    EXPECT_EQ(read.sets[1].keys[0].loopEnable, 1u);
+    EXPECT_EQ(read.sets[1].keys[0].loopCount, 1);
+    EXPECT_EQ(read.sets[1].keys[0].commandCount, 0);
+}
+
+TEST(MacroFiles, FormsRefuseEachOtherOnceThereIsAMacro) {
+    EXPECT_EQ(refusedLine(fireText, LibraryForm::Short), 9u);
+    EXPECT_EQ(refusedLine(formatMacroLibrary(fireLibrary(), LibraryForm::Short)), 10u);
+    EXPECT_EQ(refusedLine(defaultText, LibraryForm::Short), std::nullopt);
+
+    MacroLibrary many = fireLibrary();
+    many.sets[1].keys.resize(20, many.sets[1].keys[0]);
+    EXPECT_TRUE(refusedLine(formatMacroLibrary(many, LibraryForm::Short)));
+}
+
+TEST(MacroFiles, NumbersAreTakenAsTheyCome) {
+    MacroLibrary read;
+    const auto key = [&](const std::string& what, const std::string& with) {
+        EXPECT_FALSE(parseMacroLibrary(replaced(fireText, what, with), LibraryForm::Long, read)) << with;
+        return read.sets.at(1).keys.at(0);
+    };
+    EXPECT_EQ(key("MacroActionNum=2", "MacroActionNum=250").actionCount, 250u);
+    EXPECT_EQ(key("MacroActionNum=2", "x=-1").actionCount, 4294967295u);
+    EXPECT_EQ(key("MacroActionNum=2", "x=two").actionCount, 0u);
+    EXPECT_EQ(key("LoopNum=255", "LoopNum=257").loopCount, 1);
+    EXPECT_EQ(key("LoopEnable=0", "LoopEnable=99999999999").loopEnable, 4294967295u);
+    EXPECT_EQ(key("41800000", "4x8ZG-F1").actions[0].bytes, (std::array<std::uint8_t, 4>{4, 8, 0, 0xF1}));
+    EXPECT_EQ(key("=Fire", "=Fire=2 ").name, "Fire=2 ");
+
+    EXPECT_FALSE(parseMacroLibrary("[MacroLibrary]\nMacroSetNum=0", LibraryForm::Long, read));
+    EXPECT_TRUE(read.sets.empty());
+    EXPECT_FALSE(parseMacroLibrary("[MacroLibrary]\r\n=-5\r\n", LibraryForm::Long, read));
+    EXPECT_FALSE(parseMacroLibrary(replaced(defaultText, "KeyNum=0", "KeyNum=-3"), LibraryForm::Long, read));
+    EXPECT_EQ(read.sets.size(), 1u);
+}
+
+TEST(MacroFiles, EveryMissingOrEmptyLineIsRefusedAtItsPlace) {
+    std::vector<std::string> lines;
+    LineReader reader(fireText);
+    while (const auto line = reader.next())
+        lines.emplace_back(*line);
+    for (std::size_t bad = 0; bad < lines.size(); ++bad) {
+        std::string cut, emptied;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (i < bad) cut += lines[i] + '\n';
+            emptied +=
+                (i == bad ? lines[i].substr(0, lines[i].find('=') + 1) + (i ? "" : "x") : lines[i]) + '\n';
+        }
+        EXPECT_EQ(refusedLine(cut), bad + 1);
+        EXPECT_EQ(refusedLine(emptied), bad + 1);
+    }
+    EXPECT_EQ(refusedLine(replaced(fireText, unused, unused + "0")), 12u);
+    EXPECT_EQ(refusedLine(replaced(fireText, unused, unused.substr(1))), 12u);
+    EXPECT_EQ(refusedLine(replaced(fireText, "[MacroL", "[macroL")), 1u);
+}
+
+TEST(MacroFiles, HugeCountsAndRubbishEndInRefusalWithoutHugeWork) {
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(refusedLine(replaced(fireText, "SetNum=2", "SetNum=4294967295")), 13u);
+    EXPECT_EQ(refusedLine(replaced(fireText, "KeyNum=1", "KeyNum=2147483647")), 13u);
+    EXPECT_EQ(refusedLine(std::string(50'000'000, '\xFF')), 1u);
+    EXPECT_EQ(refusedLine("[MacroLibrary]\nn=9\n" + std::string(50'000'000, '\n')), 3u);
+    EXPECT_EQ(refusedLine(std::string("[MacroLibrary]\0\n", 16)), 1u);
+
+    MacroLibrary full;
+    MacroSet& set = AddMacroSet(full, "Full");
+    MacroKey macro = fireLibrary().sets[1].keys[0];
+    for (std::uint32_t i = 0; i < maxActionCount; ++i)
+        SetAction(macro, static_cast<int>(i), MacroAction::delay(i));
+    set.keys.resize(200, macro);
+    EXPECT_FALSE(parseMacroLibrary(formatMacroLibrary(full, LibraryForm::Long), LibraryForm::Long, full));
+    EXPECT_EQ(full.sets[0].keys.size(), 200u);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+}
+
+TEST(MacroFiles, RefusedLibraryIsSetAsideAndTheDefaultOneWritten) {
+    MemoryFiles files;
+    MacroLibrary library;
+    EXPECT_FALSE(LoadMacroLibrary(library, files, folder));
+    EXPECT_EQ(files.contents, (std::map<std::string, std::string>{{path, defaultText}}));
+    EXPECT_TRUE(LoadMacroLibrary(library, files, folder));
+
+    files.contents[path] = fireText.substr(0, 100);
+    EXPECT_FALSE(LoadManagerLibrary(library, files, folder));
+    EXPECT_TRUE(library.sets.empty());
+    EXPECT_EQ(files.contents.size(), 1u) << "the manager leaves the file alone";
+
+    EXPECT_FALSE(LoadMacroLibrary(library, files, folder));
+    EXPECT_EQ(files.contents[path], defaultText);
+    EXPECT_EQ(files.contents[path + ".bak"], fireText.substr(0, 100));
+
+    files.contents[path] = "rubbish";
+    files.failSetAside = true;
+    EXPECT_FALSE(LoadMacroLibrary(library, files, folder));
+    EXPECT_EQ(files.contents[path], "rubbish");
+    EXPECT_EQ(formatMacroLibrary(library, LibraryForm::Long), defaultText);
+    files.failAllWrites = true;
+    EXPECT_FALSE(SaveMacroLibrary(library, files, folder));
+    EXPECT_FALSE(SaveManagerLibrary(library, files, folder));
+}
+
+TEST(MacroFiles, LibraryWrittenByTheManagerBecomesTheDefaultOneOnReload) {
+    MemoryFiles files;
+    MacroLibrary library = fireLibrary();
+    EXPECT_TRUE(SaveManagerLibrary(library, files, folder));
+    EXPECT_TRUE(LoadManagerLibrary(library, files, folder));
+    EXPECT_FALSE(LoadMacroLibrary(library, files, folder));
+    EXPECT_EQ(files.contents[path], defaultText);
+}
+
+TEST(MacroFiles, ImportKeepsWhatStoodBeforeTheRefusedLine) {
+    MemoryFiles files;
+    MacroKey macro;
+    macro.name = "Mine";
+    AppendAction(macro, MacroAction::key(0x42, false));
+    files.contents["/bad.mkf"] = replaced(fireKeyText, unused, unused.substr(2));
+    EXPECT_FALSE(readMacroKeyFile(macro, files, "/bad.mkf"));
+    EXPECT_EQ(macro.name, "Mine");
+    EXPECT_EQ(macro.loopCount, 255);
+    EXPECT_EQ(macro.commandCount, 1);
+    EXPECT_EQ(macro.actions[0], MacroAction::key(0x42, false));
+    EXPECT_EQ(files.contents.size(), 1u) << "a refused import is the user's own file";
+
+    EXPECT_FALSE(readMacroKeyFile(macro, files, "/missing.mkf"));
+    EXPECT_TRUE(parseMacroKey("[MacroKey]\n=1\n=2\n=3\n", macro));
+    EXPECT_TRUE(parseMacroKey(fireText, macro));
+    EXPECT_TRUE(writeMacroKeyFile(fireLibrary().sets[1].keys[0], files, "/fire.mkf"));
+    EXPECT_TRUE(readMacroKeyFile(macro, files, "/fire.mkf"));
+    EXPECT_EQ(macro.actions[0], MacroAction::key(0x41, true));
+}
+
+TEST(MacroFiles, NamesWithLineEndsStayOneLine) {
+    MacroLibrary library;
+    AddMacroKey(AddMacroSet(library, "a\nb"), "c\r");
+    MacroLibrary read;
+    EXPECT_FALSE(parseMacroLibrary(formatMacroLibrary(library, LibraryForm::Long), LibraryForm::Long, read));
+    EXPECT_EQ(read.sets[0].name, "a b");
+    EXPECT_EQ(read.sets[0].keys[0].name, "c ");
+}
+
+} // namespace
+} // namespace tarnix

@@ -1,0 +1,169 @@
+#include "platform/files.h"
+
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+namespace tarnix {
+namespace {
+
+namespace fs = std::filesystem;
+
+class SystemFilesTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::string pattern = testing::TempDir() + "files_test.XXXXXX";
+        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+        folder = pattern;
+    }
+    void TearDown() override { fs::remove_all(folder); }
+
+    std::string at(const std::string& name) const { return (folder / name).string(); }
+    void put(const std::string& name, const std::string& text) const { std::ofstream(at(name)) << text; }
+    std::vector<std::string> names() const {
+        std::vector<std::string> found;
+        for (const auto& entry : fs::directory_iterator(folder))
+            found.push_back(entry.path().filename());
+        return found;
+    }
+
+    /// Runs the work in a process of its own that has no more than an ordinary user's rights.
+    static bool inOrdinaryProcess(const std::function<bool()>& work) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            constexpr uid_t nobody = 65534;
+            if (::geteuid() == 0 && ::setuid(nobody) != 0) ::_exit(2);
+            ::_exit(work() ? 0 : 1);
+        }
+        int status = 0;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) != 2);
+        return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    }
+
+    fs::path folder;
+    std::unique_ptr<Files> files = makeSystemFiles();
+};
+
+TEST_F(SystemFilesTest, ReadsWholeRegularFilesOnly) {
+    const std::string text("a\r\nb\0\xFF", 6);
+    put("x", text);
+    EXPECT_EQ(files->read(at("x")), text);
+    put("empty", "");
+    EXPECT_EQ(files->read(at("empty")), "");
+
+    EXPECT_EQ(files->read(at("missing")), std::nullopt);
+    EXPECT_EQ(files->read(""), std::nullopt);
+    EXPECT_EQ(files->read(folder), std::nullopt);
+    EXPECT_EQ(files->read("/dev/zero"), std::nullopt);
+    EXPECT_EQ(files->read(at("x") + std::string("\0y", 2)), std::nullopt);
+    ASSERT_EQ(::mkfifo(at("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(files->read(at("pipe")), std::nullopt) << "and does not wait for a writer";
+
+    fs::resize_file(at("x"), Files::maxFileSize);
+    EXPECT_EQ(files->read(at("x"))->size(), Files::maxFileSize);
+    fs::resize_file(at("x"), Files::maxFileSize + 1);
+    EXPECT_EQ(files->read(at("x")), std::nullopt);
+}
+
+TEST_F(SystemFilesTest, BackslashesAreSlashesUnlessSuchAFileExists) {
+    EXPECT_TRUE(files->replace(at("config\\deep\\a.psf"), "made"));
+    EXPECT_EQ(files->read(at("config/deep/a.psf")), "made");
+    EXPECT_EQ(files->read(at("config\\deep\\a.psf")), "made");
+    put("config\\odd", "literal");
+    put("config/odd", "mapped");
+    EXPECT_EQ(files->read(at("config\\odd")), "literal");
+    EXPECT_TRUE(files->replace(at("config\\odd"), "literal 2"));
+    EXPECT_EQ(files->read(at("config/odd")), "mapped");
+    EXPECT_FALSE(files->replace("C:\\Kbd\\config\\a.psf", "x"));
+    EXPECT_FALSE(fs::exists("C:"));
+}
+
+TEST_F(SystemFilesTest, ReplacingNeverWritesIntoTheOldFileAndKeepsLinksAndPermissions) {
+    put("real", "old");
+    ASSERT_EQ(::chmod(at("real").c_str(), 0640), 0);
+    fs::create_hard_link(at("real"), at("witness"));
+    fs::create_symlink("real", at("link"));
+    fs::create_symlink(at("link"), at("outer"));
+
+    EXPECT_TRUE(files->replace(at("outer"), "new"));
+    EXPECT_EQ(files->read(at("real")), "new");
+    EXPECT_EQ(files->read(at("witness")), "old");
+    EXPECT_TRUE(fs::is_symlink(at("link")) && fs::is_symlink(at("outer")));
+    EXPECT_EQ(fs::status(at("real")).permissions(), fs::perms{0640});
+
+    fs::create_symlink("new target", at("dangling"));
+    EXPECT_TRUE(files->replace(at("dangling"), "made"));
+    EXPECT_EQ(files->read(at("new target")), "made");
+    fs::create_symlink("loop", at("loop"));
+    EXPECT_FALSE(files->replace(at("loop"), "x"));
+    EXPECT_THAT(names(), testing::UnorderedElementsAre("real", "witness", "link", "outer", "dangling",
+                                                       "new target", "loop"));
+}
+
+TEST_F(SystemFilesTest, FullDiskKeepsTheOldFileAndLeavesNothingBehind) {
+    put("x", "old");
+    ASSERT_EQ(::chmod(folder.c_str(), 0777), 0);
+    ASSERT_EQ(::chmod(at("x").c_str(), 0666), 0);
+    const auto fill = [&](std::size_t size) {
+        return makeSystemFiles()->replace(at("x"), std::string(size, 'n'));
+    };
+    const bool refused = inOrdinaryProcess([&] {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{4096, 4096};
+        if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
+        return !fill(5000);
+    });
+    EXPECT_TRUE(refused);
+    EXPECT_EQ(files->read(at("x")), "old");
+    EXPECT_THAT(names(), testing::ElementsAre("x"));
+}
+
+TEST_F(SystemFilesTest, ForbiddenPlacesAreRefusedAndStayAsTheyAre) {
+    put("x", "old");
+    put("read-only", "old");
+    ASSERT_EQ(::chmod(at("read-only").c_str(), 0444), 0);
+    ASSERT_EQ(::chmod(folder.c_str(), 0777), 0);
+    EXPECT_FALSE(inOrdinaryProcess([&] { return makeSystemFiles()->replace(at("read-only"), "new"); }));
+    EXPECT_TRUE(inOrdinaryProcess([&] { return makeSystemFiles()->replace(at("theirs"), "new"); }));
+    ASSERT_EQ(::chmod(folder.c_str(), 0555), 0);
+    EXPECT_FALSE(inOrdinaryProcess([&] { return makeSystemFiles()->replace(at("theirs"), "newer"); }));
+    EXPECT_FALSE(inOrdinaryProcess([&] { return makeSystemFiles()->replace(at("sub/y"), "new"); }));
+    EXPECT_FALSE(inOrdinaryProcess([&] { return makeSystemFiles()->setAside(at("theirs")); }));
+    ASSERT_EQ(::chmod(folder.c_str(), 0755), 0);
+    EXPECT_EQ(files->read(at("read-only")), "old");
+    EXPECT_EQ(files->read(at("theirs")), "new");
+
+    EXPECT_FALSE(files->replace(at("x/below"), "new"));
+    EXPECT_FALSE(files->replace(folder, "new"));
+    EXPECT_FALSE(files->replace("/dev/null", "new"));
+    EXPECT_FALSE(files->replace("", "new"));
+    EXPECT_THAT(names(), testing::UnorderedElementsAre("x", "read-only", "theirs"));
+}
+
+TEST_F(SystemFilesTest, RefusedFilesMoveAsideAndNothingElseDoes) {
+    put("p.psf", "second");
+    put("p.psf.bak", "first");
+    EXPECT_TRUE(files->setAside(folder.string() + "\\p.psf"));
+    EXPECT_EQ(files->read(at("p.psf.bak")), "second");
+    EXPECT_FALSE(fs::exists(at("p.psf")));
+    EXPECT_TRUE(files->setAside(at("p.psf"))) << "nothing left to move";
+
+    fs::create_directory(at("folder"));
+    EXPECT_FALSE(files->setAside(at("folder")));
+    EXPECT_TRUE(fs::is_directory(at("folder")));
+    put("blocked", "x");
+    fs::create_directory(at("blocked.bak"));
+    EXPECT_FALSE(files->setAside(at("blocked")));
+    EXPECT_EQ(files->read(at("blocked")), "x");
+}
+
+} // namespace
+} // namespace tarnix

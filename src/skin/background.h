@@ -34,7 +34,7 @@ class Background {
 
 /// How wide the soft edge of a bitmap is in a window: 0 where the bitmap covers the window, else at most 100
 /// pixels.
-int fadeWidth(Size window, Size bitmap);
+int fadeWidthFor(Size window, Size bitmap);
 Color averageColor(const Image& bitmap);
 /// Everything that is not pure yellow, row by row.
 std::vector<Rect> outlineOf(const Image& bitmap);

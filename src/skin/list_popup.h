@@ -27,12 +27,13 @@ struct ListClass {
     unsigned kind;
     std::uint8_t firstByte; ///< byte 0 of the record at first
     int width;              ///< 0: that of the rectangle given at creation
-    Color text;
     TextFormat format;
-    bool answersPress = false; ///< a press on a row sends the notify message with both words 0
-    std::span<const ListItem> items = {};
+    /// A press on a row with a smaller code sends the notify message with both words 0, and a press elsewhere
+    /// takes the highlight away; with 0 presses are ignored.
+    int answersPressBelow;
+    std::span<const ListItem> items; ///< empty where the class itself adds its rows
     /// Puts the choice of a row's code into the record; none where the class itself answers.
-    void (*choose)(int code, SelectionRecord& record) = nullptr;
+    void (*choose)(int code, SelectionRecord& record);
 };
 
 class CListPopup : public CWndPopup {
@@ -50,6 +51,7 @@ class CListPopup : public CWndPopup {
     int hotRow() const { return m_nHotRow; }
 
   protected:
+    /// The traits must outlive the popup; `kindOffset` is added to their kind.
     explicit CListPopup(const ListClass& traits, unsigned kindOffset = 0);
 
     void addRow(std::string text, int code, bool submenu = false);
@@ -58,12 +60,12 @@ class CListPopup : public CWndPopup {
     virtual void addRows();
     /// A row was chosen. Default: the class's `choose`, then `answer`.
     virtual void chosen(const Row& row);
-    /// Another row is hot now.
+    /// Another row is hot now. Default: nothing.
     virtual void hovered(int index, const Row& row);
-    /// The button went down on a row that is hot. Default: as `answersPress` says.
-    virtual void rowPressed(const Row& row);
-    /// Sends the record with the notify message and the tag.
-    void answer();
+    /// Sends the record with the notify message and a tag.
+    void answer(WParam tagWord);
+    /// Sends the owner a message of another number, with the tag.
+    void tell(Message message, int value);
 
     SelectionRecord m_record;
 
@@ -73,8 +75,6 @@ class CListPopup : public CWndPopup {
     bool OnPopupMouseMove(Point at) final;
     bool OnPopupLButtonDown(Point at) final;
     bool OnPopupLButtonUp(Point at) final;
-    void drawRow(Canvas& canvas, const Row& row, bool hot) const;
-    void layOut(int width);
     bool inHotRow(Point at) const;
 
     const ListClass& m_class;
@@ -90,7 +90,6 @@ class CComboPopup : public CListPopup {
   protected:
     void chosen(const Row& row) override;
     void hovered(int index, const Row& row) override;
-    void rowPressed(const Row& row) override;
 };
 
 /// Multimedia functions.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 
 #include "macro/macro_library.h"
 #include "platform/edit_field.h"
@@ -26,11 +27,10 @@ class CRowList : public CMouseControl {
 
   protected:
     CRowList(Window& owner, unsigned id, const Rect& rect, std::string text, bool visible, bool disabled);
+    /// Draws an item that there is.
     virtual void drawRow(Canvas& canvas, int index, const Rect& row) = 0;
-    /// The rectangle that the selection fills and that `drawRow` gets.
-    virtual Rect rowRect(int line) const = 0;
-    /// Which line of the screen a point inside lies on.
-    int lineAt(Point at) const { return (at.y - m_rect.top) / rowHeight; }
+    /// Where a line of the screen stands, counted from the top of the list.
+    Rect rowRect(int line) const;
     void pressed(Point at) override;
 };
 
@@ -62,10 +62,10 @@ class CEditShowList : public CRowList {
 
   protected:
     void drawRow(Canvas& canvas, int index, const Rect& row) override;
-    Rect rowRect(int line) const override;
     void pressed(Point at) override;
 
   private:
+    const MacroSet* shownSet() const;
     void finishName();
 
     MacroLibrary& m_source;
@@ -90,11 +90,9 @@ class CImageShowList : public CRowList {
 
   protected:
     void drawRow(Canvas& canvas, int index, const Rect& row) override;
-    Rect rowRect(int line) const override;
-    void pressed(Point at) override;
 
   private:
-    MacroKey* macro() const;
+    std::span<const MacroAction> steps() const;
 
     MacroLibrary& m_source;
     ImageStrip m_release{1};

@@ -28,7 +28,12 @@ class MouseRouter {
 
   private:
     void repaint(const CControlBase* control);
-    bool repaintAfterRelease(const Rect& pressed);
+    /// The hot control where it is visible and holds the point.
+    CControlBase* hotAt(Point at) const;
+    CControlBase* offer(unsigned flags, Point at);
+    void startMove();
+    void endPress();
+    bool repaintAfterRelease(const Rect& released);
 
     static constexpr Point outside{-1, -1};
     static constexpr Rect noRect{-1, -1, -1, -1};
@@ -39,7 +44,6 @@ class MouseRouter {
     CControlBase* m_focus = nullptr;
     bool m_tracking = false;
     bool m_buttonDown = false;
-    bool m_doubleClick = false;
     bool m_captured = false;
     Rect m_pressed = noRect; ///< of the control on which the last press or double-click landed
     Point m_last = outside;

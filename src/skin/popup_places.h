@@ -62,15 +62,19 @@ class PopupPlaces {
 
   private:
     static constexpr std::size_t index(PopupPlace place) { return static_cast<std::size_t>(place); }
-    /// Shows the popup and keeps it until its window has gone; none on failure.
-    CWndPopup* show(std::unique_ptr<CWndPopup> popup, const Rect& clientRect, Message notify, unsigned tag);
-    void release(CWndPopup* popup);
+    CWndPopup* keep(std::unique_ptr<CWndPopup> popup);
+    void letGo(CWndPopup& popup);
+    void discard(CWndPopup* popup);
+    /// Takes the popup out of the place that holds it.
+    void forget(const CWndPopup* popup);
+    bool isOpen(const CWndPopup* popup) const;
+    void sweep();
 
     Window& m_owner;
     MouseRouter& m_mouse;
     std::array<CWndPopup*, count> m_places{};
-    std::map<unsigned, CWndPopup*> m_macroSets; ///< the open ones by row
-    std::vector<std::unique_ptr<CWndPopup>> m_alive;
+    std::map<unsigned, CWndPopup*> m_macroSets;      ///< the open ones by row
+    std::vector<std::unique_ptr<CWndPopup>> m_alive; ///< all popups until their windows have gone
 };
 
 } // namespace tarnix

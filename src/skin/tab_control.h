@@ -21,7 +21,6 @@ class CTabControl : public CStripButton {
 
   protected:
     int frame() const override;
-    void pressed(Point at) override;
     void clicked(Point at) override;
 };
 

@@ -33,6 +33,8 @@ class CWndPopup : public Window {
     /// What decides which message tells of a deactivation.
     unsigned kind() const { return m_nKind; }
     unsigned tag() const { return m_nTag; }
+    /// True while one of its handlers runs, or while its window exists: not the time to free it.
+    bool inUse() const { return m_nBusy > 0 || exists(); }
     /// Tells the owner, as a loss of activation does, that the user has turned away from the popup.
     void sendDeactivated();
 
@@ -40,7 +42,6 @@ class CWndPopup : public Window {
     void OnMouseMove(unsigned flags, Point at) final;
     void OnLButtonDown(unsigned flags, Point at) final;
     void OnLButtonUp(unsigned flags, Point at) final;
-    void OnLButtonDblClk(unsigned flags, Point at) final;
     void OnMouseLeave() final;
     void OnMouseHover() final;
     void OnActivate(bool active) final;
@@ -61,11 +62,14 @@ class CWndPopup : public Window {
     int givenWidth() const { return m_nWidth; }
 
   private:
+    class Busy;
+
     std::string m_role;
     unsigned m_nKind;
     int m_nWidth = 100;
     Message m_nNotifyMessage = 0;
     unsigned m_nTag = 0;
+    int m_nBusy = 0; ///< handlers on the stack
     bool m_bTracking = false;
     bool m_bButtonDown = false;
     bool m_bCaptured = false;

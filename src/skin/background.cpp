@@ -1,0 +1,97 @@
+#include "skin/background.h"
+
+#include <cmath>
+#include <cstdint>
+
+namespace tarnix {
+
+namespace {
+
+constexpr Color outsideColor = rgb(255, 255, 0);
+constexpr int widestFade = 100;
+
+Rect common(const Rect& a, const Rect& b) {
+    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+            std::min(a.bottom, b.bottom)};
+}
+
+} // namespace
+
+int fadeWidthFor(Size window, Size bitmap) {
+    if (window.width <= bitmap.width && window.height <= bitmap.height) return 0;
+    return std::min({bitmap.width, widestFade, bitmap.height});
+}
+
+Color averageColor(const Image& bitmap) {
+    const auto [width, height] = bitmap.size();
+    std::uint64_t red = 0;
+    std::uint64_t green = 0;
+    std::uint64_t blue = 0;
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const Color color = bitmap.pixel({x, y});
+            red += static_cast<std::uint64_t>(redOf(color));
+            green += static_cast<std::uint64_t>(greenOf(color));
+            blue += static_cast<std::uint64_t>(blueOf(color));
+        }
+    const std::uint64_t pixels =
+        static_cast<std::uint64_t>(std::max(width, 1)) * static_cast<std::uint64_t>(std::max(height, 1));
+    return rgb(static_cast<int>(red / pixels), static_cast<int>(green / pixels),
+               static_cast<int>(blue / pixels));
+}
+
+std::vector<Rect> outlineOf(const Image& bitmap) {
+    const auto [width, height] = bitmap.size();
+    std::vector<Rect> outline;
+    for (int y = 0; y < height; ++y) {
+        int start = 0; // of the run of inside pixels that ends before x
+        for (int x = 0; x <= width; ++x) {
+            if (x < width && bitmap.pixel({x, y}) != outsideColor) continue;
+            if (x > start) outline.push_back({start, y, x, y + 1});
+            start = x + 1;
+        }
+    }
+    return outline;
+}
+
+void Background::load(const Image& bitmap, Size window) {
+    m_size = bitmap.size();
+    m_fade = fadeWidthFor(window, m_size);
+    m_color = averageColor(bitmap);
+    m_picture = &bitmap;
+    m_surface.reset();
+    if (m_fade > 0) prepareFades(bitmap);
+}
+
+void Background::prepareFades(const Image& bitmap) {
+    m_surface = makeSurface(m_size);
+    m_picture = &m_surface->image();
+    Canvas& canvas = m_surface->canvas();
+    const auto copy = [&](const Rect& area, double opacity) {
+        canvas.draw(bitmap, area, area, static_cast<int>(opacity));
+    };
+    const auto [width, height] = m_size;
+    const int f = m_fade;
+    const int right = width - f;
+    const int bottom = height - f;
+
+    canvas.fill({0, 0, width, height}, m_color);
+    copy({0, 0, right, bottom}, 255);
+    for (int k = 0; k < f; ++k) {
+        copy(Rect::at(right + k, 0, 1, bottom), 255 - k * (255.0 / f));
+        copy(Rect::at(0, bottom + k, right, 1), 255 - k * (255.0 / f));
+    }
+    for (int j = 0; j < f; ++j)
+        for (int i = 0; i < f; ++i)
+            copy(Rect::at(right + i, bottom + j, 1, 1),
+                 255 - std::min<double>(f, std::hypot(i, j)) * 255 / f);
+}
+
+void Background::draw(Canvas& canvas, const Rect& dirty) const {
+    if (!m_picture) return canvas.fill(dirty, m_color);
+    if (dirty.right > m_size.width || dirty.bottom > m_size.height) canvas.fill(dirty, m_color);
+    const Rect covered = common(dirty, {0, 0, m_size.width, m_size.height});
+    if (!covered.empty()) canvas.draw(*m_picture, covered, covered);
+}
+
+} // namespace tarnix

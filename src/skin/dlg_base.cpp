@@ -1,0 +1,148 @@
+#include "skin/dlg_base.h"
+
+#include <utility>
+
+#include "skin/lists.h"
+
+namespace tarnix {
+
+namespace {
+
+constexpr const char* programTitle = "Tarnix Keyboard";
+
+const Image* bitmapResource(unsigned id) {
+    const Image* bitmap = nullptr;
+    LoadPngResource(id, bitmap, ResourceType::Bitmap);
+    return bitmap;
+}
+
+} // namespace
+
+CDlgBase::CDlgBase(WindowTraits traits, Size size) : m_traits(std::move(traits)), m_size(size) {}
+
+CDlgBase::~CDlgBase() = default;
+
+bool CDlgBase::Create() {
+    if (!createWindow(m_traits, Rect::at(0, 0, m_size.width, m_size.height))) return false;
+    OnInitDialog();
+    return true;
+}
+
+int CDlgBase::DoModal() {
+    return Create() ? runModal() : IDCANCEL;
+}
+
+void CDlgBase::OnInitDialog() {
+    const Image* icon = nullptr;
+    if (LoadPngResource(iconId, icon, ResourceType::Icon)) setIcon(*icon);
+    setTitle(programTitle);
+    BuildControls(clientRect());
+    centre();
+}
+
+void CDlgBase::LoadBackground(unsigned bitmap) {
+    const Image* image = bitmapResource(bitmap);
+    if (!image) return;
+    m_background.load(*image, m_size);
+    invalidate();
+}
+
+void CDlgBase::SetShapeFromBitmap(unsigned bitmap) {
+    if (const Image* image = bitmapResource(bitmap)) setShape(outlineOf(*image));
+}
+
+void CDlgBase::addControls(std::size_t group, std::span<const ControlRow> rows, Point origin) {
+    for (const ControlRow& row : rows)
+        m_controls.add(group, makeControl(*this, row, origin));
+}
+
+void CDlgBase::repaintControl(unsigned id) const {
+    if (const CControlBase* found = GetControl(id)) found->repaint();
+}
+
+void CDlgBase::OnPaint(Canvas& canvas, const Rect& dirty) {
+    if (isMinimised())
+        canvas.fill(Rect::at(10, 10, 1, 1), rgb(255, 255, 255));
+    else
+        DrawWindow(canvas, dirty);
+}
+
+void CDlgBase::DrawWindow(Canvas& canvas, const Rect& dirty) {
+    drawBackground(canvas, dirty);
+    DrawControls(canvas, dirty);
+}
+
+void CDlgBase::DrawControls(Canvas& canvas, const Rect& clip) {
+    m_controls.draw(canvas, clip);
+}
+
+void CDlgBase::OnMouseMove(unsigned flags, Point at) {
+    m_mouse.move(flags, at);
+}
+
+void CDlgBase::OnLButtonDown(unsigned flags, Point at) {
+    m_mouse.press(flags, at);
+}
+
+void CDlgBase::OnLButtonUp(unsigned flags, Point at) {
+    m_mouse.release(flags, at);
+}
+
+void CDlgBase::OnLButtonDblClk(unsigned flags, Point at) {
+    m_mouse.doubleClick(flags, at);
+}
+
+void CDlgBase::OnMouseLeave() {
+    m_mouse.leave();
+}
+
+void CDlgBase::OnMouseHover() {
+    m_mouse.hover();
+}
+
+bool CDlgBase::OnKey(const KeyPress& key) {
+    const bool escape = key.key == KeyPress::Key::Escape;
+    if (!escape && key.key != KeyPress::Key::Enter) return false;
+    if (!key.down) return true;
+    if (!escape)
+        OnEnter();
+    else if (m_popups.any())
+        m_popups.dismiss();
+    else if (!closeNameField())
+        OnCancel();
+    return true;
+}
+
+/// Closes the name field that a list of the window has open. False when there is none.
+bool CDlgBase::closeNameField() {
+    bool closed = false;
+    m_controls.forEach([&closed](CControlBase& control) {
+        auto* list = dynamic_cast<CEditShowList*>(&control);
+        if (!list || !list->isEditing()) return;
+        list->CloseEditor();
+        closed = true;
+    });
+    return closed;
+}
+
+void CDlgBase::OnCancel() {
+    endModal(IDCANCEL);
+}
+
+void CDlgBase::OnEnter() {}
+
+void CDlgBase::OnClose() {
+    OnCancel();
+}
+
+void CDlgBase::OnDestroy() {
+    m_popups.destroyAll();
+}
+
+LResult CDlgBase::OnMessage(Message message, WParam w, LParam l) {
+    if (message != CWndPopup::goneMessage) return m_messages.dispatch(message, w, l);
+    m_popups.free(l);
+    return 0;
+}
+
+} // namespace tarnix

@@ -1,0 +1,131 @@
+#include "artist/controls.h"
+#include "artist/dialog_frame.h"
+#include "artist/subjects.h"
+#include "ui/dialog_layouts.h"
+
+namespace tarnix::art {
+
+namespace {
+
+/// Where the foot begins: a little above the dialog's buttons.
+template <typename Table>
+double footOf(const Table& controls) {
+    return placeOf(controls, dialog::okButton).top - 13;
+}
+
+void paintNotice(Sheet& sheet) {
+    sheet.face(dialog::notice::background, dialog::wideSize, [](QPainter& p) {
+        paintDialogFrame(p, dialog::wideSize, QString(), footOf(dialog::notice::controls));
+        paintNoticeSign(p, QPointF(dialog::wideSize.width / 2.0, 68), NoticeSign::Attention);
+    });
+}
+
+struct Confirmation {
+    unsigned background;
+    const char* title;
+    const char* question;
+    const char* lines[2];
+};
+
+constexpr Confirmation confirmations[] = {
+    {dialog::reset::profileBackground,
+     "Reset profile",
+     "Reset this profile to its factory settings?",
+     {"Its keys, lighting, G-keys and name are set back, on the keyboard too.", "This cannot be undone."}},
+    {dialog::reset::factoryBackground,
+     "Restore all",
+     "Restore all factory settings?",
+     {"Profiles 1 to 3 are set back, on the keyboard too, and your macros are deleted.",
+      "This cannot be undone."}},
+};
+
+void paintConfirmation(Sheet& sheet, const Confirmation& row) {
+    sheet.face(row.background, dialog::wideSize, [&row](QPainter& p) {
+        const double width = dialog::wideSize.width;
+        paintDialogFrame(p, dialog::wideSize, QString::fromLatin1(row.title),
+                         footOf(dialog::reset::controls));
+        paintNoticeSign(p, QPointF(width / 2, 62), NoticeSign::Question);
+        setText(p, QRectF(0, 90, width, 24), QString::fromLatin1(row.question), Type::Heading,
+                palette::paper);
+        double y = 119;
+        for (const char* line : row.lines) {
+            setText(p, QRectF(0, y, width, 20), QString::fromLatin1(line), Type::Body, palette::mist);
+            y += 21;
+        }
+    });
+}
+
+void paintKeyMap(Sheet& sheet) {
+    using namespace dialog::keymap;
+    sheet.face(background, dialog::wideSize, [](QPainter& p) {
+        paintDialogFrame(p, dialog::wideSize, QStringLiteral("Key function"), footOf(controls));
+        const Rect name = placeOf(controls, keyName);
+        setText(p, QRectF(93, name.top - 2, 70, 20), QStringLiteral("Key"), Type::Label, palette::paper,
+                Qt::AlignLeft);
+        labelBeside(p, placeOf(controls, keyRadio), QStringLiteral("Keyboard key"));
+        labelBeside(p, placeOf(controls, mouseRadio), QStringLiteral("Mouse function"));
+        const QRectF value = rectF(placeOf(controls, keyFunction));
+        plate(p, value.adjusted(-1, -3, 1, 3), 5, palette::sagePale, palette::sage);
+    });
+}
+
+void paintShortcut(Sheet& sheet) {
+    using namespace dialog::shortcut;
+    sheet.shapedFace(background, size, dialogCornerRadius, [](QPainter& p) {
+        paintDialogFrame(p, size, QStringLiteral("Shortcut"), footOf(controls), dialogCornerRadius);
+        setText(p, QRectF(22, 46, 376, 20), QStringLiteral("Choose the modifiers, then press the key."),
+                Type::Body, palette::mist, Qt::AlignLeft);
+        for (const auto& [box, words] :
+             {std::pair{singleKey, "Single"}, std::pair{ctrl, "Ctrl"},
+              std::pair{dialog::shortcut::shift, "Shift"}, std::pair{alt, "Alt"}, std::pair{win, "Win"}})
+            labelBeside(p, placeOf(controls, box), QString::fromLatin1(words), Type::Caption, 5);
+        const QRectF key = rectF(placeOf(controls, keyName));
+        setText(p, QRectF(key.left(), key.top() - 23, 100, 18), QStringLiteral("Key"), Type::Caption,
+                palette::mist, Qt::AlignLeft);
+        paintDarkField(p, key.adjusted(-5, -3, 3, 3));
+    });
+}
+
+void paintQuickLaunch(Sheet& sheet) {
+    using namespace dialog::launch;
+    sheet.shapedFace(background, size, dialogCornerRadius, [](QPainter& p) {
+        paintDialogFrame(p, size, QStringLiteral("Quick launch"), footOf(controls), dialogCornerRadius);
+        const QRectF field = rectF(placeOf(controls, path));
+        setText(p, QRectF(field.left() - 4, field.top() - 26, 240, 18), QStringLiteral("Program"),
+                Type::Caption, palette::mist, Qt::AlignLeft);
+        paintDarkField(p, field.adjusted(-5, -2, 1, 2));
+        setText(p, QRectF(field.left() - 4, field.bottom() + 14, 260, 18),
+                QStringLiteral("The G-key starts this program."), Type::Caption, palette::mist,
+                Qt::AlignLeft);
+    });
+}
+
+void paintEditProfile(Sheet& sheet) {
+    using namespace dialog::profile;
+    sheet.face(background, size, [](QPainter& p) {
+        paintDialogFrame(p, size, QStringLiteral("Edit profile"), footOf(controls));
+        const QRectF name = rectF(nameFieldRect);
+        setText(p, QRectF(30, name.top() - 2, 80, 20), QStringLiteral("Name"), Type::Label, palette::paper,
+                Qt::AlignLeft);
+        paintDarkField(p, name.adjusted(-4, -3, 4, 3), QColor(0, 0, 0));
+        const QRectF first = rectF(placeOf(controls, path1));
+        setText(p, QRectF(30, first.top() - 25, 200, 18), QStringLiteral("Programs"), Type::Label,
+                palette::paper, Qt::AlignLeft);
+        for (unsigned row : {path1, path2, path3})
+            paintDarkField(p, rectF(placeOf(controls, row)).adjusted(-4, 0.5, 1, -0.5));
+    });
+}
+
+} // namespace
+
+void paintDialogFaces(Sheet& sheet) {
+    paintNotice(sheet);
+    for (const Confirmation& row : confirmations)
+        paintConfirmation(sheet, row);
+    paintKeyMap(sheet);
+    paintShortcut(sheet);
+    paintQuickLaunch(sheet);
+    paintEditProfile(sheet);
+}
+
+} // namespace tarnix::art

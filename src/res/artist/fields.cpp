@@ -1,0 +1,172 @@
+#include <array>
+
+#include "artist/controls.h"
+#include "artist/shapes.h"
+#include "artist/subjects.h"
+#include "macro_manager/manager_layout.h"
+#include "res/resource_ids.h"
+#include "ui/dialog_layouts.h"
+#include "ui/main_window_layout.h"
+
+namespace tarnix::art {
+
+namespace {
+
+/// The seven frames of a check box are its mouse state, whether it is checked, or disabled.
+struct CheckState {
+    Frame frame;
+    bool checked;
+    bool disabled;
+};
+
+CheckState checkState(int index) {
+    if (index == picture::checkFrames - 1) return {Frame::Rest, false, true};
+    return {Frame(index % 3), index >= 3, false};
+}
+
+void paintCheckBox(QPainter& p, const QRectF& area, int index) {
+    using namespace palette;
+    const CheckState state = checkState(index);
+    const QRectF box = area.adjusted(0.5, 0.5, -0.5, -0.5);
+    const double radius = box.width() / 4;
+    if (state.disabled) {
+        plate(p, box, radius, slate, line);
+        p.setPen(QPen(lineBright, 1.5, Qt::SolidLine, Qt::RoundCap));
+        p.drawLine(box.center() - QPointF(2.5, 0), box.center() + QPointF(2.5, 0));
+        return;
+    }
+    const QColor edge = state.frame == Frame::Rest ? sage : springLight;
+    QColor fill = state.checked ? spring : abyss;
+    if (state.frame == Frame::Hover) fill = state.checked ? springLight : steel;
+    if (state.frame == Frame::Pressed) fill = state.checked ? springDeep : mossDeep;
+    plate(p, box, radius, fill, edge);
+    if (state.checked) tick(p, box, area.width() / 7.5, ink);
+}
+
+/// The record switch: a toggle with its word.
+void paintRecordSwitch(QPainter& p, const QRectF& area, int index) {
+    using namespace palette;
+    const CheckState state = checkState(index);
+    const QRectF body = area.adjusted(1, 1, -1, -1);
+    const QColor rests[] = {slate, steel, abyss};
+    const QColor runs[] = {spring, springLight, springDeep};
+    const int frame = static_cast<int>(state.frame);
+    plate(p, body, 7, state.checked ? runs[frame] : rests[frame],
+          state.disabled               ? line
+          : state.frame == Frame::Rest ? sage
+                                       : springLight);
+    const QPointF lamp(body.left() + 15, body.center().y());
+    p.setPen(Qt::NoPen);
+    p.setBrush(state.disabled ? lineBright : state.checked ? QColor(176, 30, 30) : QColor(232, 96, 86));
+    if (state.checked)
+        p.drawRoundedRect(QRectF(lamp.x() - 4.5, lamp.y() - 4.5, 9, 9), 1.5, 1.5);
+    else
+        p.drawEllipse(lamp, 5, 5);
+    setText(p, QRectF(body.left() + 28, body.top(), body.width() - 32, body.height()),
+            state.checked ? QStringLiteral("Stop") : QStringLiteral("Record"), Type::Button,
+            state.disabled  ? mist
+            : state.checked ? ink
+                            : paper,
+            Qt::AlignLeft);
+}
+
+void paintRadio(QPainter& p, const QRectF& area, int frame) {
+    using namespace palette;
+    const QRectF ring = area.adjusted(1, 1, -1, -1);
+    p.setPen(QPen(Frame(frame) == Frame::Rest ? sage : springLight, 1.5));
+    p.setBrush(Frame(frame) == Frame::Hover ? steel : abyss);
+    p.drawEllipse(ring);
+    if (Frame(frame) == Frame::Pressed) {
+        p.setPen(Qt::NoPen);
+        p.setBrush(spring);
+        p.drawEllipse(ring.center(), 3.6, 3.6);
+    }
+}
+
+/// A drop-down field; its value is set on it in black.
+void paintCombo(QPainter& p, const QRectF& area, int index) {
+    using namespace palette;
+    constexpr int inactive = 3;
+    const QColor faces[] = {sagePale, springLight, spring, mixed(sage, mist, 0.5), mixed(sage, mist, 0.3)};
+    const QColor edges[] = {sage, spring, springDeep, moss, sage};
+    const QColor face = faces[index];
+    plate(p, area, 5, vertical(area, mixed(face, QColor(255, 255, 255), 0.25), face), edges[index]);
+    const double split = area.right() - 25;
+    p.fillRect(QRectF(split, area.top() + 5, 1, area.height() - 10), withAlpha(moss, 150));
+    chevron(p, QPointF(split + 13, area.center().y() + 0.5), 3.6, Direction::Down, 1.7,
+            index < inactive ? ink : mossDeep);
+}
+
+/// The button beside a path: a folder.
+void paintBrowse(QPainter& p, const QRectF& area, int frame) {
+    button(p, area, QString(), ButtonLook::Main, Frame(frame), Type::Small, 0);
+    const QPointF c = area.center() + QPointF(0, 0.5);
+    QPainterPath folder(c + QPointF(-5.5, -4));
+    for (const QPointF& d :
+         {QPointF(-1.5, -4), QPointF(0, -2.5), QPointF(5.5, -2.5), QPointF(5.5, 4), QPointF(-5.5, 4)})
+        folder.lineTo(c + d);
+    folder.closeSubpath();
+    p.setPen(QPen(palette::ink, 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(Qt::NoBrush);
+    p.drawPath(folder);
+}
+
+void paintScrollArrow(QPainter& p, const QRectF& area, int frame, Direction direction) {
+    using namespace palette;
+    const QColor fills[] = {moss, spring, springDeep};
+    plate(p, area, 3, fills[frame], mossDeep);
+    chevron(p, area.center(), 3.6, direction, 1.8, ink);
+}
+
+void paintStepIcons(Sheet& sheet) {
+    const auto press = [](QPainter& p, const QRectF& a, int) {
+        plate(p, QRectF(a.left() + 1, a.top() + 9, 12, 4), 2, palette::mossDeep, palette::moss);
+        arrow(p, QPointF(a.center().x(), a.top() + 4.5), 7, Direction::Down, 1.6, palette::spring);
+    };
+    const auto release = [](QPainter& p, const QRectF& a, int) {
+        plate(p, QRectF(a.left() + 1, a.top() + 9, 12, 4), 2, palette::slate, palette::mist);
+        arrow(p, QPointF(a.center().x(), a.top() + 4.5), 7, Direction::Up, 1.6, palette::paper);
+    };
+    const auto delay = [](QPainter& p, const QRectF& a, int) {
+        p.setPen(QPen(palette::warm, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        p.setBrush(Qt::NoBrush);
+        p.drawEllipse(a.center(), 5.5, 5.5);
+        p.drawLine(a.center(), a.center() + QPointF(0, -3.2));
+        p.drawLine(a.center(), a.center() + QPointF(2.4, 1));
+    };
+    sheet.strip(picture::stepPress, picture::stepIconSize, 1, press);
+    sheet.strip(picture::stepRelease, picture::stepIconSize, 1, release);
+    sheet.strip(picture::stepDelay, picture::stepIconSize, 1, delay);
+}
+
+} // namespace
+
+void paintFields(Sheet& sheet) {
+    const ControlRow& box = controlOf(macroPageControls, id::loopCheck);
+    sheet.strip(box.image, box.rect.size(), picture::checkFrames, paintCheckBox);
+    const ControlRow& smallBox = controlOf(dialog::shortcut::controls, dialog::shortcut::ctrl);
+    sheet.strip(smallBox.image, smallBox.rect.size(), picture::checkFrames, paintCheckBox);
+    const ControlRow& record = controlOf(macroPageControls, id::recordSwitch);
+    sheet.strip(record.image, record.rect.size(), picture::checkFrames, paintRecordSwitch);
+    sheet.strip(picture::radioButton, picture::radioButtonSize, picture::buttonFrames, paintRadio);
+    sheet.strip(lightingFields[0].image, lightingFields[0].rect.size(), picture::comboFrames, paintCombo);
+    const ControlRow& browse = controlOf(dialog::launch::controls, dialog::launch::browse);
+    sheet.strip(browse.image, browse.rect.size(), picture::buttonFrames, paintBrowse);
+    const ControlRow& own = controlOf(dialog::keymap::controls, dialog::keymap::ownFunction);
+    sheet.strip(own.image, own.rect.size(), picture::buttonFrames,
+                [](QPainter& p, const QRectF& area, int frame) {
+                    button(p, area, QStringLiteral("Default"), ButtonLook::Quiet, Frame(frame), Type::Small);
+                });
+    sheet.strip(
+        picture::scrollUp, picture::scrollArrowSize, picture::buttonFrames,
+        [](QPainter& p, const QRectF& a, int frame) { paintScrollArrow(p, a, frame, Direction::Up); });
+    sheet.strip(
+        picture::scrollDown, picture::scrollArrowSize, picture::buttonFrames,
+        [](QPainter& p, const QRectF& a, int frame) { paintScrollArrow(p, a, frame, Direction::Down); });
+    sheet.strip(picture::popupFace, picture::popupFaceSize, 1, [](QPainter& p, const QRectF& area, int) {
+        plate(p, area, 1, palette::sage, palette::spring);
+    });
+    paintStepIcons(sheet);
+}
+
+} // namespace tarnix::art

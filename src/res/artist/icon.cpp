@@ -1,0 +1,13 @@
+#include "artist/emblem.h"
+#include "artist/subjects.h"
+#include "res/resource_ids.h"
+
+namespace tarnix::art {
+
+void paintIcon(Sheet& sheet) {
+    sheet.icon(picture::programIcon, picture::programIconSize, [](QPainter& p) {
+        paintEmblem(p, QRectF(0, 0, picture::programIconSize.width, picture::programIconSize.height));
+    });
+}
+
+} // namespace tarnix::art

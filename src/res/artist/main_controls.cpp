@@ -1,0 +1,111 @@
+#include <array>
+
+#include "artist/caps.h"
+#include "artist/controls.h"
+#include "artist/shapes.h"
+#include "artist/subjects.h"
+#include "res/resource_ids.h"
+#include "ui/main_window_layout.h"
+
+namespace tarnix::art {
+
+namespace {
+
+struct Wording {
+    unsigned control;
+    const char* word;
+    ButtonLook look;
+    Type type;
+};
+
+constexpr std::array<Wording, 12> wordings{{
+    {id::keyPageTab, "Key settings", ButtonLook::Tab, Type::Button},
+    {id::macroPageTab, "Macros", ButtonLook::Tab, Type::Button},
+    {id::gKeyPageTab, "G-keys", ButtonLook::Tab, Type::Button},
+    {id::lightingPageTab, "Lighting", ButtonLook::Tab, Type::Button},
+    {id::okButton, "OK", ButtonLook::Main, Type::Small},
+    {id::applyButton, "Apply", ButtonLook::Main, Type::Small},
+    {id::cancelButton, "Cancel", ButtonLook::Quiet, Type::Small},
+    {id::profileTab1, "Profile 1", ButtonLook::Tab, Type::Button},
+    {id::profileTab2, "Profile 2", ButtonLook::Tab, Type::Button},
+    {id::profileTab3, "Profile 3", ButtonLook::Tab, Type::Button},
+    {id::resetButton, "Reset profile", ButtonLook::Quiet, Type::Small},
+    {id::restoreButton, "Restore all", ButtonLook::Quiet, Type::Small},
+}};
+
+constexpr std::array<Wording, 4> macroWordings{{
+    {id::macroButton1, "New", ButtonLook::Main, Type::Small},
+    {id::macroButton2, "Delete", ButtonLook::Quiet, Type::Small},
+    {id::macroButton3, "Import", ButtonLook::Quiet, Type::Small},
+    {id::macroButton4, "Export", ButtonLook::Quiet, Type::Small},
+}};
+
+template <typename Table, std::size_t count>
+void paintWorded(Sheet& sheet, const Table& table, const std::array<Wording, count>& words) {
+    for (const Wording& row : words) {
+        const ControlRow& control = controlOf(table, row.control);
+        sheet.strip(control.image, control.rect.size(), picture::buttonFrames,
+                    [&row](QPainter& p, const QRectF& area, int frame) {
+                        const double margin = row.look == ButtonLook::Tab || area.height() > 30 ? 2 : 1;
+                        button(p, area, QString::fromLatin1(row.word), row.look, Frame(frame), row.type,
+                               margin);
+                    });
+    }
+}
+
+enum class WindowSign { Close, Minimise };
+
+void paintWindowButton(Sheet& sheet, unsigned id, WindowSign sign) {
+    const ControlRow& control = controlOf(commonControls, id);
+    sheet.strip(control.image, control.rect.size(), picture::buttonFrames,
+                [sign](QPainter& p, const QRectF& area, int frame) {
+                    using namespace palette;
+                    const bool rest = Frame(frame) == Frame::Rest;
+                    const QColor fills[] = {withAlpha(slate, 0), mossDeep, mossDark};
+                    const QColor color = rest ? mist : Frame(frame) == Frame::Hover ? paper : springLight;
+                    if (!rest) plate(p, area, 5, fills[frame], moss);
+                    const QPointF c = area.center();
+                    if (sign == WindowSign::Close) {
+                        cross(p, c, 3.5, 1.5, color);
+                    } else {
+                        p.setPen(QPen(color, 1.5, Qt::SolidLine, Qt::RoundCap));
+                        p.drawLine(c + QPointF(-4, 3), c + QPointF(4, 3));
+                    }
+                });
+}
+
+/// Small coloured dots, one for each of the five lighting areas.
+void paintAreaMarkers(Sheet& sheet) {
+    for (std::size_t i = 0; i < areaMarkers.size(); ++i) {
+        const QColor area = QColor::fromHsvF(static_cast<float>(i) / 6.0F, 0.7F, 1.0F);
+        sheet.strip(areaMarkers[i].image, areaMarkers[i].rect.size(), picture::buttonFrames,
+                    [area](QPainter& p, const QRectF& frame, int state) {
+                        const double inset = state == 2 ? 2 : 4;
+                        p.setPen(QPen(state == 0 ? palette::line : palette::paper, 1));
+                        p.setBrush(area);
+                        p.drawEllipse(frame.adjusted(inset, inset, -inset, -inset));
+                    });
+    }
+}
+
+} // namespace
+
+void paintMainControls(Sheet& sheet) {
+    paintWindowButton(sheet, id::closeButton, WindowSign::Close);
+    paintWindowButton(sheet, id::minimiseButton, WindowSign::Minimise);
+    paintWorded(sheet, commonControls, wordings);
+    paintWorded(sheet, macroPageControls, macroWordings);
+    paintAreaMarkers(sheet);
+}
+
+void paintCaps(Sheet& sheet) {
+    for (const ControlRow& cap : keyCaps) {
+        const CapLegend& legend = legendOf(cap.text);
+        sheet.strip(cap.image, cap.rect.size(), picture::buttonFrames,
+                    [&legend](QPainter& p, const QRectF& area, int frame) {
+                        paintCap(p, area, legend, Frame(frame));
+                    });
+    }
+}
+
+} // namespace tarnix::art

@@ -1,0 +1,39 @@
+// The type scale: every word in the art is set in one of these.
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+#include <QString>
+
+namespace tarnix::art {
+
+enum class Type {
+    Display,   ///< the program's name in the window's head
+    Heading,   ///< a question, a page's title
+    Body,      ///< sentences
+    Label,     ///< words beside controls
+    Caption,   ///< headings of groups, hints
+    Button,    ///< words on large buttons and tabs
+    Small,     ///< words on small buttons
+    Legend,    ///< a key's letter
+    LegendTwo, ///< one of two signs on a key
+    LegendWord ///< a word on a key
+};
+
+/// True when the family that the art is set in is installed.
+bool typeAvailable();
+/// Its name and the package that brings it, for a message.
+QString typeRequirement();
+
+QFont typeFace(Type type);
+
+/// Sets one line inside an area; the whole line is centred on the height of its capitals, so that words sit
+/// evenly in buttons whatever letters they have.
+void setText(QPainter& p, const QRectF& area, const QString& text, Type type, const QColor& color,
+             Qt::Alignment horizontal = Qt::AlignHCenter);
+/// Capitals with wide spacing, for wordmarks and group headings.
+void setSpaced(QPainter& p, const QRectF& area, const QString& text, Type type, const QColor& color,
+               double spacing, Qt::Alignment horizontal = Qt::AlignHCenter);
+double textWidth(const QString& text, Type type);
+
+} // namespace tarnix::art

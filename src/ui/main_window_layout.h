@@ -199,5 +199,8 @@ constexpr unsigned pageBandImage(int page) {
 /// Where the hover pictures of the left and of the right half of the keyboard would stand.
 inline constexpr Rect leftHoverPicture = Rect::at(191, 209, 159, 175);
 inline constexpr Rect rightHoverPicture = Rect::at(582, 209, 159, 175);
+/// What is repainted of them.
+inline constexpr Rect leftHoverArea{191, 209, 351, 389};
+inline constexpr Rect rightHoverArea{582, 209, 742, 389};
 
 } // namespace tarnix

@@ -84,6 +84,8 @@ inline constexpr unsigned loadProfileButton = 2070;  ///< loads the profile from
 /// address of a selection record or 0.
 namespace msg {
 
+inline constexpr unsigned command = 0x111;           ///< [command, -] from the notification-area menu
+inline constexpr unsigned trayNotify = 0x420;        ///< [icon, Win32 mouse message] from the icon itself
 inline constexpr unsigned categoryChosen = 0x403;    ///< [field or 0, record] a row of the function menu
 inline constexpr unsigned openFunctionMenu = 0x404;  ///< [field, notification] a G-key field was clicked
 inline constexpr unsigned categoryClosing = 0x405;   ///< [-, 0] the function menu lost activation
@@ -126,7 +128,7 @@ inline constexpr unsigned speedChosen = 0x431;      ///< [field, record]
 
 } // namespace msg
 
-/// Commands of the notification-area menu.
+/// Commands, the first word of msg::command.
 namespace command {
 inline constexpr unsigned exit = 2;
 inline constexpr unsigned showWindow = 2075;

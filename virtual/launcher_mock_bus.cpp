@@ -1,0 +1,317 @@
+// Hidraw nodes under umockdev: a folder that stands for /sys and /dev in every process that preloads its
+// library.
+#include <fcntl.h>
+#include <linux/hidraw.h>
+#include <linux/input.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <termios.h>
+#include <umockdev.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <deque>
+#include <filesystem>
+
+#include "platform/linux/file_descriptor.h"
+#include "virtual/glib_source.h"
+#include "virtual/launcher_bus.h"
+
+namespace tarnix {
+namespace {
+
+struct Unref {
+    void operator()(void* object) const { g_object_unref(object); }
+};
+template <class T>
+using GObjectPtr = std::unique_ptr<T, Unref>;
+
+std::string formatted(const char* format, auto... values) {
+    std::string text(256, '\0');
+    const int length = std::snprintf(text.data(), text.size(), format, values...);
+    text.resize(std::min(text.size() - 1, static_cast<std::size_t>(std::max(length, 0))));
+    return text;
+}
+
+std::string hexText(std::span<const std::uint8_t> bytes) {
+    std::string text;
+    for (const std::uint8_t byte : bytes)
+        text += formatted("%02X", byte);
+    return text;
+}
+
+/// Where a node stands in the mocked system, and what stands there.
+struct NodePlace {
+    NodePlace(const BusInterface& interface, unsigned number)
+        : usb(formatted("/devices/pci0000:00/0000:00:14.0/usb1/1-%u/1-%u:1.%u", interface.port,
+                        interface.port, interface.interfaceNumber)),
+          hid(usb + formatted("/0003:%04X:%04X.%04X", interface.vendor, interface.product, number)),
+          name(formatted("hidraw%u", number)),
+          node(hid + "/hidraw/" + name),
+          device("/dev/" + name) {}
+
+    std::string usb, hid, name, node, device;
+};
+
+/// The two devices of a node as umockdev reads them.
+std::string deviceText(const NodePlace& place, const BusInterface& interface, unsigned number) {
+    return "P: " + place.hid + "\nE: SUBSYSTEM=hid\n" +
+           formatted("E: HID_ID=0003:%08X:%08X\n", interface.vendor, interface.product) +
+           "E: HID_NAME=" + interface.name + "\nE: HID_UNIQ=\n" +
+           formatted("E: HID_PHYS=usb-0000:00:14.0-%u/input%u\n", interface.port, interface.interfaceNumber) +
+           "H: report_descriptor=" + hexText(interface.descriptor) + "\n\n" + //
+           "P: " + place.node + "\nN: " + place.name + "\nE: SUBSYSTEM=hidraw\nE: DEVNAME=" + place.device +
+           formatted("\nE: MAJOR=240\nE: MINOR=%u\n", number) + "L: device=../../../" +
+           place.hid.substr(place.hid.rfind('/') + 1) + "\n\n";
+}
+
+std::string rootFolder(UMockdevTestbed* testbed) {
+    const std::unique_ptr<char, decltype(&g_free)> root(umockdev_testbed_get_root_dir(testbed), g_free);
+    return root.get();
+}
+
+/// True while the listener behind a socket takes another event.
+bool takesEvents(const std::string& socketPath) {
+    const FileDescriptor sender(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0));
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    socketPath.copy(address.sun_path, sizeof address.sun_path - 1);
+    if (::connect(sender.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0)
+        return true;
+    pollfd state{sender.get(), POLLOUT, 0};
+    return ::poll(&state, 1, 0) == 1;
+}
+
+/// Tells the listeners of an arrival or a removal. A listener that lets its events lie loses the later ones,
+/// as it would with the kernel; the test bed would end this process over it.
+void announce(UMockdevTestbed* testbed, const std::string& sysPath, const char* action) {
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(rootFolder(testbed), error)) {
+        if (entry.path().filename().string().starts_with("event") && !takesEvents(entry.path())) return;
+    }
+    umockdev_testbed_uevent(testbed, sysPath.c_str(), action);
+}
+
+/// A request whose answer takes its time. Ends with an error when the device is unplugged first.
+class DelayedAnswer {
+  public:
+    DelayedAnswer(UMockdevIoctlClient* client, Milliseconds delay, std::function<void()> finish)
+        : m_client(static_cast<UMockdevIoctlClient*>(g_object_ref(client))) {
+        m_timer = GlibSource::every(delay, [this, finish = std::move(finish)] {
+            m_done = true;
+            finish();
+            return false;
+        });
+    }
+    ~DelayedAnswer() {
+        if (!m_done) umockdev_ioctl_client_complete(m_client.get(), -1, ENODEV);
+    }
+    DelayedAnswer(const DelayedAnswer&) = delete;
+    DelayedAnswer& operator=(const DelayedAnswer&) = delete;
+
+    bool done() const { return m_done; }
+
+  private:
+    GObjectPtr<UMockdevIoctlClient> m_client;
+    GlibSource m_timer;
+    bool m_done = false;
+};
+
+class MockPlug final : public BusPlug {
+  public:
+    MockPlug(UMockdevTestbed* testbed, const BusInterface& interface, BusFunction& function, unsigned number)
+        : m_testbed(testbed),
+          m_interface(interface),
+          m_function(function),
+          m_place(interface, number),
+          m_handler(umockdev_ioctl_base_new()) {
+        const std::string text = deviceText(m_place, interface, number);
+        if (!umockdev_testbed_add_from_string(testbed, text.c_str(), nullptr)) return;
+        m_terminal = FileDescriptor(umockdev_testbed_get_dev_fd(testbed, m_place.device.c_str()));
+        // Inherited by the program, it would keep its own node alive after an unplug.
+        ::fcntl(m_terminal.get(), F_SETFD, FD_CLOEXEC);
+        m_peer = FileDescriptor(::ioctl(m_terminal.get(), TIOCGPTPEER, O_RDWR | O_NOCTTY | O_CLOEXEC));
+        g_signal_connect(m_handler.get(), "handle-ioctl", G_CALLBACK(onIoctl), this);
+        g_signal_connect(m_handler.get(), "client-connected", G_CALLBACK(onOpen), this);
+        g_signal_connect(m_handler.get(), "client-vanished", G_CALLBACK(onClose), this);
+        umockdev_testbed_attach_ioctl(testbed, m_place.device.c_str(), m_handler.get(), nullptr);
+        announce(testbed, sysPath(m_place.node), "add");
+    }
+
+    ~MockPlug() override {
+        if (!m_terminal) return;
+        m_answers.clear();
+        g_signal_handlers_disconnect_by_data(m_handler.get(), this);
+        announce(m_testbed, sysPath(m_place.node), "remove");
+        umockdev_testbed_detach_ioctl(m_testbed, m_place.device.c_str(), nullptr);
+        umockdev_testbed_remove_device(m_testbed, sysPath(m_place.node).c_str());
+        umockdev_testbed_remove_device(m_testbed, sysPath(m_place.hid).c_str());
+        // The test bed leaves the node's name behind, and its terminal, whose closing hangs up the readers.
+        ::unlink((rootFolder(m_testbed) + m_place.device).c_str());
+    }
+
+    MockPlug(const MockPlug&) = delete;
+    MockPlug& operator=(const MockPlug&) = delete;
+
+    bool plugged() const { return static_cast<bool>(m_terminal); }
+
+    void sendInput(std::span<const std::uint8_t> report) override {
+        // As in the kernel, a report that nobody waits for is lost.
+        if (m_clients == 0) return;
+        m_reports.emplace_back(report.begin(), report.end());
+        if (m_reports.size() == 1)
+            m_delivery = GlibSource::every(Milliseconds(1), [this] { return deliver(); });
+    }
+
+  private:
+    static std::string sysPath(const std::string& device) { return "/sys" + device; }
+
+    /// A terminal keeps no borders between reports, so the next one is written when the last one was read.
+    /// True while there is more to deliver.
+    bool deliver() {
+        int unread = 0;
+        if (m_reports.empty()) return false;
+        if (::ioctl(m_peer.get(), TIOCINQ, &unread) == 0 && unread > 0) return true;
+        const std::vector<std::uint8_t> report = std::move(m_reports.front());
+        m_reports.pop_front();
+        if (::write(m_terminal.get(), report.data(), report.size()) < 0) m_reports.clear();
+        return !m_reports.empty();
+    }
+
+    static void onOpen(UMockdevIoctlBase*, UMockdevIoctlClient*, void* self) {
+        ++static_cast<MockPlug*>(self)->m_clients;
+    }
+
+    static void onClose(UMockdevIoctlBase*, UMockdevIoctlClient*, void* self) {
+        auto& plug = *static_cast<MockPlug*>(self);
+        if (--plug.m_clients > 0) return;
+        plug.m_reports.clear();
+        ::tcflush(plug.m_peer.get(), TCIFLUSH);
+    }
+
+    static gboolean onIoctl(UMockdevIoctlBase*, UMockdevIoctlClient* client, void* self) {
+        return static_cast<MockPlug*>(self)->answer(client) ? TRUE : FALSE;
+    }
+
+    /// True when the request was one that a hidraw node knows.
+    bool answer(UMockdevIoctlClient* client) {
+        const unsigned long request = umockdev_ioctl_client_get_request(client);
+        if (_IOC_TYPE(request) != 'H') return false;
+        const std::shared_ptr<UMockdevIoctlData> data(
+            umockdev_ioctl_data_resolve(umockdev_ioctl_client_get_arg(client), 0, _IOC_SIZE(request),
+                                        nullptr),
+            [](UMockdevIoctlData* resolved) { g_clear_object(&resolved); });
+        if (!data) return false;
+        switch (_IOC_NR(request)) {
+            case _IOC_NR(HIDIOCGRDESCSIZE):
+                return describeSize(client, *data);
+            case _IOC_NR(HIDIOCGRDESC):
+                return describe(client, *data);
+            case _IOC_NR(HIDIOCGRAWINFO):
+                return identify(client, *data);
+            case _IOC_NR(HIDIOCSFEATURE(0)):
+                return setFeature(client, *data);
+            case _IOC_NR(HIDIOCGFEATURE(0)):
+                return getFeature(client, data);
+            default:
+                return false;
+        }
+    }
+
+    template <class T>
+    static bool put(UMockdevIoctlClient* client, UMockdevIoctlData& data, T value) {
+        std::array<std::uint8_t, sizeof(T)> bytes{};
+        std::memcpy(bytes.data(), &value, sizeof value);
+        umockdev_ioctl_data_update(&data, 0, bytes.data(), bytes.size());
+        umockdev_ioctl_client_complete(client, 0, 0);
+        return true;
+    }
+
+    bool describeSize(UMockdevIoctlClient* client, UMockdevIoctlData& data) {
+        return put(client, data, static_cast<int>(m_interface.descriptor.size()));
+    }
+
+    bool describe(UMockdevIoctlClient* client, UMockdevIoctlData& data) {
+        hidraw_report_descriptor descriptor{};
+        descriptor.size = static_cast<unsigned>(m_interface.descriptor.size());
+        std::copy(m_interface.descriptor.begin(), m_interface.descriptor.end(), descriptor.value);
+        return put(client, data, descriptor);
+    }
+
+    bool identify(UMockdevIoctlClient* client, UMockdevIoctlData& data) {
+        return put(client, data,
+                   hidraw_devinfo{BUS_USB, static_cast<short>(m_interface.vendor),
+                                  static_cast<short>(m_interface.product)});
+    }
+
+    bool setFeature(UMockdevIoctlClient* client, UMockdevIoctlData& data) {
+        const std::span report(data.data, static_cast<std::size_t>(data.data_len));
+        const FeatureAnswer said = m_function.setFeature(report);
+        finish(client, said, [client, length = report.size()] {
+            umockdev_ioctl_client_complete(client, static_cast<long>(length), 0);
+        });
+        return true;
+    }
+
+    bool getFeature(UMockdevIoctlClient* client, const std::shared_ptr<UMockdevIoctlData>& data) {
+        const auto room = static_cast<std::size_t>(data->data_len);
+        const FeatureAnswer said = m_function.getFeature(data->data[0], room);
+        std::vector<std::uint8_t> report = said.report;
+        report.resize(std::min(report.size(), room));
+        finish(client, said, [client, data, report = std::move(report)]() mutable {
+            umockdev_ioctl_data_update(data.get(), 0, report.data(), static_cast<int>(report.size()));
+            umockdev_ioctl_client_complete(client, static_cast<long>(report.size()), 0);
+        });
+        return true;
+    }
+
+    void finish(UMockdevIoctlClient* client, const FeatureAnswer& said, std::function<void()> accept) {
+        // A stalled control transfer is what a device refuses with.
+        auto complete = said.accepted ? std::move(accept)
+                                      : [client] { umockdev_ioctl_client_complete(client, -1, EPIPE); };
+        if (said.delay == Milliseconds(0)) return complete();
+        std::erase_if(m_answers, [](const auto& each) { return each->done(); });
+        m_answers.push_back(std::make_unique<DelayedAnswer>(client, said.delay, std::move(complete)));
+    }
+
+    UMockdevTestbed* m_testbed;
+    BusInterface m_interface;
+    BusFunction& m_function;
+    NodePlace m_place;
+    GObjectPtr<UMockdevIoctlBase> m_handler;
+    FileDescriptor m_terminal; ///< what is written here, the node's readers read
+    FileDescriptor m_peer;     ///< the readers' end, to see what they have not read
+    int m_clients = 0;
+    std::deque<std::vector<std::uint8_t>> m_reports;
+    GlibSource m_delivery;
+    std::vector<std::unique_ptr<DelayedAnswer>> m_answers;
+};
+
+class MockBus final : public Bus {
+  public:
+    MockBus() : m_testbed(umockdev_testbed_new()) {}
+
+    std::unique_ptr<BusPlug> plug(const BusInterface& interface, BusFunction& function) override {
+        // A number that was used is not used again: the test bed cannot make the same node twice.
+        auto plug = std::make_unique<MockPlug>(m_testbed.get(), interface, function, m_nextNode++);
+        if (!plug->plugged()) return nullptr;
+        return plug;
+    }
+
+  private:
+    GObjectPtr<UMockdevTestbed> m_testbed;
+    unsigned m_nextNode = 0;
+};
+
+} // namespace
+
+std::unique_ptr<Bus> makeMockBus() {
+    return std::make_unique<MockBus>();
+}
+
+} // namespace tarnix

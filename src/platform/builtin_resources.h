@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <span>
 
 #include "platform/resources.h"
@@ -29,7 +30,11 @@ struct BuiltinImage {
     std::size_t size = 0; ///< bytes
 };
 
-/// All of them, in any order.
+/// A picture over stored pixels, which must outlive it; `fine` is the same picture at scale 2, or none. A PNG
+/// file is decoded here.
+std::unique_ptr<Image> makeImage(const BuiltinImage& plain, const BuiltinImage* fine = nullptr);
+
+/// All of them, in any order. No picture is listed at scale 2 alone.
 std::span<const BuiltinImage> builtinImages();
 
 } // namespace tarnix

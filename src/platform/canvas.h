@@ -26,7 +26,7 @@ constexpr int blueOf(Color c) {
 }
 
 /// A picture that never changes. It may hold finer pixels for screens above 100 %; sizes and coordinates are
-/// always those at 100 %.
+/// always those at 100 %. Made by this layer alone: resources, surfaces.
 class Image {
   public:
     virtual ~Image() = default;
@@ -38,7 +38,7 @@ class Image {
 /// How a line of text is set. Height and width 0 leave the choice to the platform.
 struct TextFormat {
     int height = 0;       ///< pixels from ascender to descender
-    int averageWidth = 0; ///< average character width in pixels
+    int averageWidth = 0; ///< average character width in pixels; a wish: letters are never stretched
     int weight = 400;     ///< 400 normal, 700 bold
     Color color = 0;
     bool centred = false;         ///< else flush left

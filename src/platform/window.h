@@ -60,7 +60,8 @@ class Window {
 
     /// Makes the native window, hidden, at the given screen rectangle. False when the desktop refuses.
     bool createWindow(const WindowTraits& traits, const Rect& screenRect);
-    /// Calls OnDestroy and takes the native window away; nothing without one.
+    /// Ends the modal run, destroys the windows that it owns, calls OnDestroy and takes the native window
+    /// away; nothing without one. Safe in the window's own handlers.
     void destroyWindow();
     bool exists() const;
     Window* owner() const;
@@ -149,20 +150,25 @@ class Window {
     virtual void OnMouseWheel(int delta, Point at); ///< 120 a notch, positive away from the user
     virtual void OnMouseLeave();
     virtual void OnMouseHover();
-    /// A key for this window or a field in it. True swallows it.
+    /// A key for this window or a field in it. True swallows it. Escape that is not swallowed cancels the
+    /// modal run; Enter does nothing. Neither repeats while it is held.
     virtual bool OnKey(const KeyPress& key);
     virtual void OnTimer(unsigned id);
     /// Among the program's own windows; synchronous.
     virtual void OnActivate(bool active);
     /// The text of the child field with this identifier was changed by the user.
     virtual void OnEditChange(unsigned id);
-    /// Asked to close (by postClose, the window manager or the session). Default: destroyWindow.
+    /// Asked to close (by postClose or the window manager), at a moment when none of the window's handlers is
+    /// running. Default: cancels the modal run, else destroyWindow.
     virtual void OnClose();
-    /// The native window is about to go.
+    /// The native window, hidden by now, is about to go. The object may delete itself here, and nowhere else
+    /// in its handlers.
     virtual void OnDestroy();
     virtual LResult OnMessage(Message message, WParam w, LParam l);
 
   private:
+    void releaseWindow();
+
     std::unique_ptr<Native> m_native;
 };
 

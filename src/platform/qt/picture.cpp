@@ -1,0 +1,79 @@
+#include "picture.h"
+
+#include <QPixmap>
+
+#include "convert.h"
+
+namespace tarnix {
+
+namespace {
+
+QImage paintedQuickly(QImage image) {
+    const auto format = image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+    image.convertTo(format);
+    return image;
+}
+
+QImage withKeyTransparent(const QImage& image, Color key) {
+    const QRgb keyPixel = qRgb(redOf(key), greenOf(key), blueOf(key));
+    QImage keyed = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < keyed.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(keyed.scanLine(y));
+        for (int x = 0; x < keyed.width(); ++x) {
+            if (row[x] == keyPixel) row[x] = 0;
+        }
+    }
+    return keyed;
+}
+
+} // namespace
+
+Picture::Picture(QImage pixels, int scale) : m_pixels(paintedQuickly(std::move(pixels))), m_scale(scale) {}
+
+void Picture::addFiner(QImage pixels) {
+    m_finer = paintedQuickly(std::move(pixels));
+}
+
+Size Picture::size() const {
+    return {m_pixels.width() / m_scale, m_pixels.height() / m_scale};
+}
+
+Color Picture::pixel(Point at) const {
+    const Size whole = size();
+    if (at.x < 0 || at.y < 0 || at.x >= whole.width || at.y >= whole.height) return 0;
+    const auto* row = reinterpret_cast<const QRgb*>(m_pixels.constScanLine(at.y * m_scale));
+    const QRgb stored = row[at.x * m_scale];
+    const QRgb plain = m_pixels.format() == QImage::Format_RGB32 ? stored : qUnpremultiply(stored);
+    return rgb(qRed(plain), qGreen(plain), qBlue(plain));
+}
+
+Picture::Pixels Picture::pixelsFor(qreal deviceScale) const {
+    if (deviceScale > 1 && !m_finer.isNull()) return {m_finer, 2.0 * m_scale};
+    return {m_pixels, static_cast<qreal>(m_scale)};
+}
+
+Picture::Pixels Picture::keyedFor(qreal deviceScale, Color key) const {
+    const Pixels plain = pixelsFor(deviceScale);
+    if (!m_keyed || m_keyed->key != key || m_keyed->scale != plain.scale || m_paintedOn)
+        m_keyed = Keyed{key, withKeyTransparent(plain.image, key), plain.scale};
+    return {m_keyed->image, m_keyed->scale};
+}
+
+QImage& Picture::paintablePixels() {
+    m_paintedOn = true;
+    return m_pixels;
+}
+
+const Picture& pictureOf(const Image& image) {
+    return static_cast<const Picture&>(image);
+}
+
+QIcon iconOf(const Image& image) {
+    const Picture& picture = pictureOf(image);
+    QIcon icon;
+    for (const qreal scale : {1.0, 2.0})
+        icon.addPixmap(QPixmap::fromImage(picture.pixelsFor(scale).image));
+    return icon;
+}
+
+} // namespace tarnix

@@ -1,0 +1,92 @@
+#include "qt_canvas.h"
+
+#include <QGuiApplication>
+#include <QPaintDevice>
+#include <QPainter>
+#include <cmath>
+
+#include "convert.h"
+#include "fonts.h"
+#include "picture.h"
+#include "text_decoding.h"
+
+namespace tarnix {
+
+namespace {
+
+QRectF scaled(const Rect& rect, qreal scale) {
+    return {rect.left * scale, rect.top * scale, rect.width() * scale, rect.height() * scale};
+}
+
+class PaintedPicture : public Surface {
+  public:
+    PaintedPicture(Size size, int scale) : m_picture(blackImage(size, scale), scale) {
+        QImage& pixels = m_picture.paintablePixels();
+        pixels.setDevicePixelRatio(scale);
+        m_painter.begin(&pixels);
+    }
+    ~PaintedPicture() override { m_painter.end(); }
+    Canvas& canvas() override { return m_canvas; }
+    const Image& image() const override { return m_picture; }
+
+  private:
+    static QImage blackImage(Size size, int scale) {
+        QImage image(std::max(size.width, 1) * scale, std::max(size.height, 1) * scale, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        return image;
+    }
+
+    Picture m_picture;
+    QPainter m_painter;
+    QtCanvas m_canvas{m_painter};
+};
+
+} // namespace
+
+QtCanvas::QtCanvas(QPainter& painter) : m_painter(painter) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+}
+
+double QtCanvas::deviceScale() const {
+    return m_painter.device()->devicePixelRatio();
+}
+
+void QtCanvas::fill(const Rect& area, Color color) {
+    if (!area.empty()) m_painter.fillRect(toQt(area), toQt(color));
+}
+
+void QtCanvas::draw(const Image& image, const Rect& source, const Rect& target, int opacity) {
+    if (source.empty() || target.empty() || opacity <= 0) return;
+    const auto [pixels, scale] = pictureOf(image).pixelsFor(deviceScale());
+    if (opacity < 255) m_painter.setOpacity(opacity / 255.0);
+    m_painter.drawImage(QRectF(toQt(target)), pixels, scaled(source, scale));
+    if (opacity < 255) m_painter.setOpacity(1);
+}
+
+void QtCanvas::drawKeyed(const Image& image, const Rect& source, Point target, Color key) {
+    if (source.empty()) return;
+    const auto [pixels, scale] = pictureOf(image).keyedFor(deviceScale(), key);
+    const QRect place(toQt(target), QSize(source.width(), source.height()));
+    m_painter.drawImage(QRectF(place), pixels, scaled(source, scale));
+}
+
+void QtCanvas::drawText(std::string_view text, const Rect& area, const TextFormat& format) {
+    if (area.empty() || text.empty()) return;
+    const FittedLine line = fitLine(decodeText(text), area.width(), format);
+    const int slack = area.height() - line.height;
+    const int top = area.top + (format.verticalCentred ? (slack >= 0 ? slack / 2 : (slack - 1) / 2) : 0);
+    const int left = area.left + (format.centred ? std::max(0, (area.width() - line.width) / 2) : 0);
+    m_painter.save();
+    m_painter.setClipRect(toQt(area), Qt::IntersectClip);
+    m_painter.setFont(line.font);
+    m_painter.setPen(toQt(format.color));
+    m_painter.drawText(QPoint(left, top + line.ascent), line.text);
+    m_painter.restore();
+}
+
+std::unique_ptr<Surface> makeSurface(Size size) {
+    const qreal finest = qGuiApp ? qGuiApp->devicePixelRatio() : 1;
+    return std::make_unique<PaintedPicture>(size, static_cast<int>(std::ceil(finest)));
+}
+
+} // namespace tarnix

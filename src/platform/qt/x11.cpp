@@ -1,0 +1,66 @@
+#include "x11.h"
+
+#include <xcb/xcb.h>
+
+#include <QGuiApplication>
+#include <QWidget>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+namespace tarnix {
+
+namespace {
+
+struct Free {
+    void operator()(void* memory) const { std::free(memory); }
+};
+template <typename Reply>
+using ReplyPointer = std::unique_ptr<Reply, Free>;
+
+xcb_connection_t* connection() {
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
+}
+
+xcb_window_t rootWindow(xcb_connection_t* x11) {
+    return xcb_setup_roots_iterator(xcb_get_setup(x11)).data->root;
+}
+
+xcb_atom_t atom(xcb_connection_t* x11, const char* name) {
+    const auto cookie = xcb_intern_atom(x11, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
+    const ReplyPointer<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(x11, cookie, nullptr));
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+} // namespace
+
+bool leftButtonIsDown() {
+    xcb_connection_t* x11 = connection();
+    if (!x11) return QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+    const auto cookie = xcb_query_pointer(x11, rootWindow(x11));
+    const ReplyPointer<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(x11, cookie, nullptr));
+    return reply && (reply->mask & XCB_BUTTON_MASK_1) != 0;
+}
+
+bool windowManagerRuns() {
+    xcb_connection_t* x11 = connection();
+    if (!x11) return true;
+    const xcb_atom_t check = atom(x11, "_NET_SUPPORTING_WM_CHECK");
+    const auto cookie = xcb_get_property(x11, 0, rootWindow(x11), check, XCB_ATOM_WINDOW, 0, 1);
+    const ReplyPointer<xcb_get_property_reply_t> reply(xcb_get_property_reply(x11, cookie, nullptr));
+    return reply && xcb_get_property_value_length(reply.get()) > 0;
+}
+
+void skipTaskbar(const QWidget& window) {
+    xcb_connection_t* x11 = connection();
+    if (!x11) return;
+    const xcb_atom_t states[] = {atom(x11, "_NET_WM_STATE_SKIP_TASKBAR"),
+                                 atom(x11, "_NET_WM_STATE_SKIP_PAGER")};
+    // The toolkit keeps what others wrote here when it maps the window.
+    xcb_change_property(x11, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window.winId()),
+                        atom(x11, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 2, states);
+    xcb_flush(x11);
+}
+
+} // namespace tarnix

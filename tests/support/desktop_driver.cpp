@@ -1,0 +1,83 @@
+#include "support/desktop_driver.h"
+
+#include <xcb/xcb.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QTimer>
+#include <cstdlib>
+
+namespace tarnix::testing {
+
+namespace {
+
+/// The tool returns once the display has taken the events.
+void hand(const QStringList& arguments) {
+    QProcess::execute(QStringLiteral("xdotool"), arguments);
+}
+
+/// A round trip: whatever the display had for this program is in its queue afterwards.
+void askDisplay() {
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    const auto cookie = xcb_get_input_focus(x11->connection());
+    std::free(xcb_get_input_focus_reply(x11->connection(), cookie, nullptr));
+}
+
+} // namespace
+
+bool runUntil(const std::function<bool()>& condition, std::chrono::milliseconds atMost) {
+    QTimer wake;
+    wake.start(5);
+    QElapsedTimer time;
+    time.start();
+    while (!condition()) {
+        if (time.elapsed() > atMost.count()) return false;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}
+
+void settle() {
+    for (int round = 0; round < 5; ++round) {
+        askDisplay();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+void movePointer(Point screen) {
+    hand({"mousemove", QString::number(screen.x), QString::number(screen.y)});
+}
+
+void pressButton(int button) {
+    hand({"mousedown", QString::number(button)});
+}
+
+void releaseButton(int button) {
+    hand({"mouseup", QString::number(button)});
+}
+
+void click(Point screen) {
+    hand({"mousemove", QString::number(screen.x), QString::number(screen.y), "click", "1"});
+}
+
+void doubleClick(Point screen) {
+    hand({"mousemove", QString::number(screen.x), QString::number(screen.y), "click", "--repeat", "2",
+          "--delay", "20", "1"});
+}
+
+void turnWheel(bool up) {
+    hand({"click", up ? "4" : "5"});
+}
+
+void tapKey(const std::string& name) {
+    hand({"key", QString::fromStdString(name)});
+}
+
+void typeText(const std::string& text) {
+    hand({"type", "--delay", "2", QString::fromStdString(text)});
+}
+
+} // namespace tarnix::testing

@@ -1,0 +1,31 @@
+// A user's hands for window tests: real pointer and key events on the test's own display, and running the
+// event loop until something is seen.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+#include "platform/geometry.h"
+
+namespace tarnix::testing {
+
+/// Runs the event loop until the condition holds. False when it does not within the time.
+bool runUntil(const std::function<bool()>& condition,
+              std::chrono::milliseconds atMost = std::chrono::seconds{10});
+/// Runs the event loop until everything that was sent to the display so far has come back and is dealt with.
+void settle();
+
+void movePointer(Point screen);
+void pressButton(int button = 1);
+void releaseButton(int button = 1);
+/// Moves there, presses and releases.
+void click(Point screen);
+void doubleClick(Point screen);
+/// One notch; away from the user when up.
+void turnWheel(bool up);
+/// A key by its X name ("Escape", "a", "ctrl+v").
+void tapKey(const std::string& name);
+void typeText(const std::string& text);
+
+} // namespace tarnix::testing

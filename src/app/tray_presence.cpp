@@ -1,0 +1,28 @@
+#include "app/tray_presence.h"
+
+#include "platform/resources.h"
+#include "skin/dlg_base.h"
+#include "ui/messages.h"
+
+namespace tarnix {
+
+void TrayPresence::AddTrayIcon(Window& mainWindow) {
+    m_display.emplace(mainWindow);
+    const Image* icon = resources().find(ResourceType::Icon, CDlgBase::iconId);
+    if (!icon) return;
+    m_icon =
+        makeTrayIcon(*icon, "Tarnix Keyboard",
+                     {{"Config Tarnix Keyboard", command::showWindow}, {}, {"Exit", command::exit}},
+                     {.activated = [&mainWindow] { mainWindow.bringToFront(); },
+                      .selected = [&mainWindow](unsigned chosen) { mainWindow.send(msg::command, chosen); }});
+}
+
+void TrayPresence::OnDeviceEvent(WParam code) {
+    if (m_display) m_display->OnDeviceEvent(code);
+}
+
+void TrayPresence::OnTimer(unsigned id) {
+    if (m_display) m_display->OnTimer(id);
+}
+
+} // namespace tarnix

@@ -3,17 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "profile/item_at.h"
 #include "profile/profile_store.h"
 
 namespace tarnix {
 
 namespace {
-
-template <class Items>
-auto* itemAt(Items& items, int index) {
-    const bool inside = index >= 0 && static_cast<std::size_t>(index) < items.size();
-    return inside ? &items[static_cast<std::size_t>(index)] : nullptr;
-}
 
 template <class Items>
 bool removeAt(Items& items, int index) {

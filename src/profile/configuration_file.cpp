@@ -53,9 +53,10 @@ bool SaveConfig(const ProfileStore& store, Files& files, const std::string& prog
 void ResetConfig(ProfileStore& store, const std::string& programFolder) {
     store.ConfigTable[0] = {"CurrentProfile", "0"};
     for (int slot = 0; slot < profileCount; ++slot) {
-        const std::string number = toText(slot);
-        store.ConfigTable[static_cast<std::size_t>(1 + slot)] = {
-            "ProfileSlot" + number + "URL", programFolder + "config\\default" + number + ".psf"};
+        SettingPair& pair = store.ConfigTable[1 + slot];
+        pair.Key = "ProfileSlot" + toText(slot) + "URL";
+        pair.Value = programFolder;
+        pair.Value.append("config\\default").append(toText(slot)).append(".psf");
     }
 }
 

@@ -80,16 +80,8 @@ std::string formatProfile(const ProfileRecord& record) {
         appendHexByte(codes, code);
     appendLine(text, codes);
 
-    for (int s = 0; s < gKeyCount; ++s) {
-        const GKeySlot& slot = record.GKeys[static_cast<std::size_t>(s)];
-        const std::string key = "Key" + toText(s);
-        std::string digits;
-        for (const std::uint8_t byte : slot.Value)
-            appendHexByte(digits, byte);
-        appendLine(text, key + "Name=" + slot.Name);
-        appendLine(text, '\t' + key + "Value=" + digits);
-        appendLine(text, '\t' + key + "URL=" + slot.Url);
-    }
+    for (int s = 0; s < gKeyCount; ++s)
+        appendGKey(text, "Key" + toText(s), record.GKeys[s]);
     return text;
 }
 

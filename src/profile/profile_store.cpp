@@ -3,6 +3,7 @@
 #include <string_view>
 #include <utility>
 
+#include "profile/item_at.h"
 #include "profile/numbers.h"
 
 namespace tarnix {
@@ -51,12 +52,6 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, settingCount
 constexpr std::uint8_t ctrlBit = 0x01;
 constexpr std::uint8_t keyCodeOfDigit1 = 0x1E;
 
-template <class Items>
-auto* itemAt(Items& items, int index) {
-    const bool inside = index >= 0 && static_cast<std::size_t>(index) < items.size();
-    return inside ? &items[static_cast<std::size_t>(index)] : nullptr;
-}
-
 const std::string& textOf(const SettingPair& pair, PairText part) {
     return part == PairText::Key ? pair.Key : pair.Value;
 }
@@ -75,7 +70,7 @@ void resetProfileRecord(ProfileRecord& record, int index) {
     record.Settings[settingProfileName].Value = "Default" + toText(index + 1);
     record.KeyCodes = DefaultKeyCodes;
     for (int slot = 0; slot < gKeyCount; ++slot) {
-        GKeySlot& gKey = record.GKeys[static_cast<std::size_t>(slot)];
+        GKeySlot& gKey = record.GKeys[slot];
         gKey.Name = "CTRL+" + toText(slot + 1);
         gKey.Value = keyAssignment(FunctionType::KeyCombination, ctrlBit,
                                    static_cast<std::uint8_t>(keyCodeOfDigit1 + slot));
@@ -169,7 +164,7 @@ std::string ProfileStore::slotPath(int slot) const {
 
 void ProfileStore::SetSlotPath(int slot, std::string path) {
     const int written = record(slot) ? slot : 0;
-    ConfigTable[static_cast<std::size_t>(1 + written)].Value = std::move(path);
+    ConfigTable[1 + written].Value = std::move(path);
 }
 
 void ProfileStore::StoreGKey(unsigned fieldId, std::string name, const KeyAssignment& value,
@@ -186,7 +181,7 @@ void ProfileStore::SetKeyCode(unsigned keyButtonId, std::uint8_t code) {
     if (!found) return;
     const unsigned button = keyButtonId - firstKeyButtonId;
     const int position = GetKeyButtonPosition(button < keyButtonCount ? static_cast<int>(button) : -1);
-    found->KeyCodes[static_cast<std::size_t>(position)] = code;
+    found->KeyCodes[position] = code;
 }
 
 } // namespace tarnix

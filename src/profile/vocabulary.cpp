@@ -1,8 +1,9 @@
 #include "profile/vocabulary.h"
 
 #include <array>
-#include <cstddef>
 #include <span>
+
+#include "profile/item_at.h"
 
 namespace tarnix {
 
@@ -271,12 +272,12 @@ constexpr FunctionList mouseList{21, mouseItems, noFunction};
 constexpr FunctionList multimediaList{18, multimediaItems, keyAssignment(FunctionType::Media, 0xA7)};
 
 std::string_view nameAt(std::span<const std::string_view> names, int index) {
-    return index >= 0 && static_cast<std::size_t>(index) < names.size() ? names[index] : std::string_view{};
+    const std::string_view* name = itemAt(names, index);
+    return name ? *name : std::string_view{};
 }
 
 const FunctionItem* ownItem(const FunctionList& list, int item) {
-    const bool own = item >= list.firstOwn && item - list.firstOwn < static_cast<int>(list.own.size());
-    return own ? &list.own[item - list.firstOwn] : nullptr;
+    return item >= list.firstOwn ? itemAt(list.own, item - list.firstOwn) : nullptr;
 }
 
 std::string_view functionName(const FunctionList& list, int item) {
@@ -289,8 +290,8 @@ KeyAssignment functionValue(const FunctionList& list, int item) {
     return own ? own->value : list.fallback;
 }
 
-/// Buttons whose key has a code of its own: a choice from `firstCode` to `lastCode` is stored from `ownCode`
-/// on.
+/// Buttons whose key has codes of its own: `firstCode` to `lastCode` are stored as `ownCode` and what follows
+/// it.
 struct OwnFunctionRule {
     int firstButton;
     int lastButton;

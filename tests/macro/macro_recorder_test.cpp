@@ -53,9 +53,9 @@ class Player {
         } else if (first == "pairs") {
             std::string time;
             words >> time;
-            for (int i = 0; i < std::stoi(second); ++i) {
-                play("41 down / " + time + " ms / 41 up / " + time + " ms");
-            }
+            const std::string pair = "41 down / " + time + " ms / 41 up / " + time + " ms";
+            for (int i = 0; i < std::stoi(second); ++i)
+                play(pair);
         } else {
             const std::uint32_t stamp = (now & 0x7FFFFFFF) | (second == "up" ? 0x80000000 : 0);
             last = m_recorder.record(&macro, std::stoul(first, nullptr, 16), static_cast<std::int32_t>(stamp),

@@ -7,7 +7,6 @@
 namespace tarnix {
 namespace {
 
-using testing::HasSubstr;
 using testing::StartsWith;
 
 ProfileRecord defaultRecord(int n) {

@@ -117,27 +117,40 @@ struct CapColors {
 CapColors colorsOf(CapTone tone, Frame frame) {
     using namespace palette;
     if (frame == Frame::Pressed) return {springDeep, springDeep, spring, springLight, springLight, ink};
-    const double lift = frame == Frame::Hover ? 0.4 : 0.0;
+    const double lift = frame == Frame::Hover ? 0.45 : 0.0;
     switch (tone) {
         case Letter: {
-            const QColor face = mixed(sage, QColor(255, 255, 255), lift);
-            return {moss, mossDeep, mixed(face, QColor(255, 255, 255), 0.18), face, sagePale, ink};
+            const QColor face = mixed(sage, paper, lift);
+            return {moss,
+                    mossDeep,
+                    mixed(face, paper, 0.12),
+                    mixed(face, moss, 0.28 * (1 - lift)),
+                    mixed(sageLight, paper, lift),
+                    ink};
         }
         case Modifier: {
-            const QColor face = mixed(mossDeep, moss, lift);
-            return {mossDark, mixed(mossDark, abyss, 0.35), mixed(face, moss, 0.3), face, moss, paper};
+            const QColor face = mixed(mossDeep, moss, lift * 0.9);
+            return {mossDark, mixed(mossDark, abyss, 0.35), mixed(face, moss, 0.25),
+                    face,     mixed(moss, paper, lift),     paper};
         }
         case Function: {
             const QColor face = mixed(steel, lineBright, lift * 1.3);
-            return {slate, navy, mixed(face, line, 0.6), face, lineBright, paper};
+            return {steel, slate, mixed(face, line, 0.6), face, mixed(lineBright, paper, lift), paper};
         }
     }
     return {};
 }
 
+/// The line around the cap: only a key that the pointer is on, or that is pressed or remapped, has a bright
+/// one.
+QColor frameEdge(const CapColors& colors, Frame frame) {
+    if (frame == Frame::Rest) return mixed(colors.skirtBottom, palette::abyss, 0.4);
+    return frame == Frame::Hover ? palette::paper : palette::springLight;
+}
+
 QRectF faceOf(const QRectF& area, Frame frame) {
     const double down = frame == Frame::Pressed ? 1 : 0;
-    return area.adjusted(2.5, 1 + down, -2.5, -4 + down);
+    return area.adjusted(2, 1 + down, -2, -4 + down);
 }
 
 void paintWindowsSign(QPainter& p, const QPointF& c, const QColor& color) {
@@ -224,6 +237,7 @@ void paintWordAndSign(QPainter& p, const QRectF& face, const CapLegend& legend, 
 void paintLegend(QPainter& p, const QRectF& face, const CapLegend& legend, const QColor& color) {
     const QString word = QString::fromLatin1(legend.text);
     const QString upper = QString::fromLatin1(legend.upper);
+    const QRectF inner = face.adjusted(1, 0, -1, 0);
     if (legend.sign != CapSign::None && !word.isEmpty()) {
         paintWordAndSign(p, face, legend, color);
     } else if (legend.sign != CapSign::None) {
@@ -232,10 +246,10 @@ void paintLegend(QPainter& p, const QRectF& face, const CapLegend& legend, const
         const bool words = word.size() > 1;
         const double apart = words ? 4.5 : 5;
         const Type type = words ? Type::LegendWord : Type::LegendTwo;
-        setText(p, face.translated(0, -apart), upper, type, color);
-        setText(p, face.translated(0, apart), word, type, color);
+        setFitted(p, inner.translated(0, -apart), upper, type, color, word);
+        setFitted(p, inner.translated(0, apart), word, type, color, upper);
     } else if (!word.isEmpty()) {
-        setText(p, face, word, word.size() > 2 ? Type::LegendWord : Type::Legend, color);
+        setFitted(p, inner, word, word.size() > 2 ? Type::LegendWord : Type::Legend, color);
     }
 }
 
@@ -251,8 +265,7 @@ const CapLegend& legendOf(const char* keyName) {
 void paintCap(QPainter& p, const QRectF& area, const CapLegend& legend, Frame frame) {
     const CapColors colors = colorsOf(legend.tone, frame);
     const QRectF face = faceOf(area, frame);
-    plate(p, area, 4.5, vertical(area, colors.skirtTop, colors.skirtBottom),
-          frame == Frame::Rest ? mixed(colors.skirtBottom, palette::abyss, 0.4) : palette::spring);
+    plate(p, area, 4.5, vertical(area, colors.skirtTop, colors.skirtBottom), frameEdge(colors, frame));
     plate(p, face, 3.5, vertical(face, colors.faceTop, colors.faceBottom), colors.rim);
     paintLegend(p, face, legend, colors.legend);
 }
@@ -264,7 +277,7 @@ void paintLitCap(QPainter& p, const QRectF& area, const CapLegend& legend, const
           mixed(palette::navy, light, 0.7));
     plate(p, face, 3.5, vertical(face, mixed(palette::slate, light, 0.14), mixed(palette::navy, light, 0.1)),
           mixed(palette::slate, light, 0.45));
-    paintLegend(p, face, legend, mixed(light, QColor(255, 255, 255), 0.25));
+    paintLegend(p, face, legend, mixed(light, QColor(255, 255, 255), 0.45));
 }
 
 } // namespace tarnix::art

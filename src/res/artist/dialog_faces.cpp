@@ -24,18 +24,19 @@ struct Confirmation {
     unsigned background;
     const char* title;
     const char* question;
-    const char* lines[2];
+    const char* lines[3];
 };
 
 constexpr Confirmation confirmations[] = {
     {dialog::reset::profileBackground,
      "Reset profile",
      "Reset this profile to its factory settings?",
-     {"Its keys, lighting, G-keys and name are set back, on the keyboard too.", "This cannot be undone."}},
+     {"Its key functions, lighting, G-keys and name are lost,", "here and on the keyboard.",
+      "This cannot be undone."}},
     {dialog::reset::factoryBackground,
      "Restore all",
      "Restore all factory settings?",
-     {"Profiles 1 to 3 are set back, on the keyboard too, and your macros are deleted.",
+     {"Everything in profiles 1 to 3 is lost, here and on the keyboard,", "and your macros are deleted.",
       "This cannot be undone."}},
 };
 
@@ -44,13 +45,13 @@ void paintConfirmation(Sheet& sheet, const Confirmation& row) {
         const double width = dialog::wideSize.width;
         paintDialogFrame(p, dialog::wideSize, QString::fromLatin1(row.title),
                          footOf(dialog::reset::controls));
-        paintNoticeSign(p, QPointF(width / 2, 62), NoticeSign::Question);
-        setText(p, QRectF(0, 90, width, 24), QString::fromLatin1(row.question), Type::Heading,
+        paintNoticeSign(p, QPointF(width / 2, 57), NoticeSign::Question);
+        setText(p, QRectF(0, 79, width, 24), QString::fromLatin1(row.question), Type::Heading,
                 palette::paper);
-        double y = 119;
+        double y = 106;
         for (const char* line : row.lines) {
             setText(p, QRectF(0, y, width, 20), QString::fromLatin1(line), Type::Body, palette::mist);
-            y += 21;
+            y += 20;
         }
     });
 }

@@ -59,6 +59,26 @@ void paintBadge(QPainter& p) {
     setSpaced(p, badge, QStringLiteral("TARNIX"), Type::Small, palette::sage, 4);
 }
 
+/// The caps' light on the desk around the case, one soft spot beside the other.
+template <typename HueAt>
+void paintDeskLight(QPainter& p, const QRectF& shell, const HueAt& hueAt) {
+    constexpr int spots = 24;
+    constexpr double reach = 120;
+    p.setPen(Qt::NoPen);
+    for (int i = 0; i < spots; ++i) {
+        const double x = shell.left() + shell.width() * (i + 0.5) / spots;
+        const QColor hue = hueAt(QPointF(x, shell.center().y()));
+        for (const double y : {shell.top() + 34, shell.bottom() - 16}) {
+            QRadialGradient light(QPointF(x, y), reach);
+            light.setColorAt(0, withAlpha(hue, 34));
+            light.setColorAt(0.5, withAlpha(hue, 12));
+            light.setColorAt(1, withAlpha(hue, 0));
+            p.setBrush(light);
+            p.drawEllipse(QPointF(x, y), reach, reach);
+        }
+    }
+}
+
 } // namespace
 
 Rect capsExtent() {
@@ -92,11 +112,7 @@ void paintLitKeyboard(QPainter& p) {
         const double along = (at.x() - extent.left + (at.y() - extent.top) * 0.35) / (extent.width() * 1.1);
         return QColor::fromHsvF(static_cast<float>(std::clamp(along, 0.0, 1.0) * 0.86), 0.72F, 1.0F);
     };
-    for (int i = 0; i < 12; ++i) {
-        const QRectF part(shell.left() + shell.width() * i / 12, shell.top() + 20, shell.width() / 12,
-                          shell.height() - 20);
-        glow(p, part, 20, hueAt(part.center()), 46, 22);
-    }
+    paintDeskLight(p, shell, hueAt);
     paintShell(p, shell);
     paintWells(p);
     paintBadge(p);

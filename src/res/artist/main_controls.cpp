@@ -29,13 +29,13 @@ constexpr std::array<Wording, 12> wordings{{
     {id::profileTab1, "Profile 1", ButtonLook::Tab, Type::Button},
     {id::profileTab2, "Profile 2", ButtonLook::Tab, Type::Button},
     {id::profileTab3, "Profile 3", ButtonLook::Tab, Type::Button},
-    {id::resetButton, "Reset profile", ButtonLook::Quiet, Type::Small},
-    {id::restoreButton, "Restore all", ButtonLook::Quiet, Type::Small},
+    {id::resetButton, "Reset profile", ButtonLook::Careful, Type::Small},
+    {id::restoreButton, "Restore all", ButtonLook::Careful, Type::Small},
 }};
 
 constexpr std::array<Wording, 4> macroWordings{{
     {id::macroButton1, "New", ButtonLook::Main, Type::Small},
-    {id::macroButton2, "Delete", ButtonLook::Quiet, Type::Small},
+    {id::macroButton2, "Delete", ButtonLook::Careful, Type::Small},
     {id::macroButton3, "Import", ButtonLook::Quiet, Type::Small},
     {id::macroButton4, "Export", ButtonLook::Quiet, Type::Small},
 }};

@@ -73,18 +73,18 @@ void paintGKeyPage(QPainter& p) {
 
 void paintLightingPage(QPainter& p) {
     constexpr const char* headings[] = {"Effect", "Brightness", "Speed"};
-    const QRectF column(37 + 8, 191, 185, 205);
-    plate(p, column, 10, palette::slate, palette::line);
     for (std::size_t i = 0; i < lightingFields.size(); ++i)
         groupHeading(p, rectF(lightingFields[i].rect), QString::fromLatin1(headings[i]));
+    p.fillRect(QRectF(238, 190, 1, 268), palette::line);
+    constexpr double scale = 0.71;
     p.save();
-    p.translate(248, 196);
-    p.scale(0.71, 0.71);
-    p.translate(-54, -195);
+    p.translate(QPointF(502, 306));
+    p.scale(scale, scale);
+    p.translate(-rectF(capsExtent()).center());
     paintLitKeyboard(p);
     p.restore();
-    setText(p, QRectF(53, 446, 700, 18), QStringLiteral("The light settings belong to the chosen profile."),
-            Type::Caption, palette::mist, Qt::AlignLeft);
+    setText(p, QRectF(53, 446, 180, 18), QStringLiteral("Kept with each profile."), Type::Caption,
+            palette::mist, Qt::AlignLeft);
 }
 
 /// A band: the window's face with the page's picture on it, in the band's own coordinates.

@@ -65,6 +65,11 @@ ButtonColors colorsOf(ButtonLook look, Frame frame) {
         if (frame == Frame::Hover) return {springLight, spring, springLight, ink};
         return {springDeep, mixed(springDeep, spring, 0.35), springDeep, ink};
     }
+    if (look == ButtonLook::Careful) {
+        if (frame == Frame::Rest) return {navy, navy, line, mist};
+        if (frame == Frame::Hover) return {mixed(navy, warm, 0.18), mixed(navy, warm, 0.1), warm, warm};
+        return {abyss, abyss, mixed(navy, warm, 0.6), warm};
+    }
     if (look == ButtonLook::Tab && frame == Frame::Pressed) return {springLight, spring, springLight, ink};
     if (frame == Frame::Rest) return {steel, slate, line, paper};
     if (frame == Frame::Hover) return {mixed(moss, mossDeep, 0.55), mossDeep, sage, paper};

@@ -29,9 +29,10 @@ void well(QPainter& p, const QRectF& area, double radius, const QColor& fill, co
 void glow(QPainter& p, const QRectF& area, double radius, const QColor& color, double reach, int strength);
 
 enum class ButtonLook {
-    Main,  ///< sage: does what the window is for
-    Quiet, ///< outlined on the ground: leaves or resets
-    Tab    ///< the third frame is the selected tab
+    Main,    ///< sage: does what the window is for
+    Quiet,   ///< outlined on the ground: leaves or resets
+    Careful, ///< outlined, warm under the pointer: throws something away
+    Tab      ///< the third frame is the selected tab
 };
 /// A button with its word. The area is the whole frame; the plate keeps `margin` pixels off its edge.
 void button(QPainter& p, const QRectF& area, const QString& word, ButtonLook look, Frame frame, Type type,

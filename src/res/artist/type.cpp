@@ -35,7 +35,7 @@ TypeRow rowOf(Type type) {
         case Type::LegendTwo:
             return {8.5, QFont::DemiBold};
         case Type::LegendWord:
-            return {8, QFont::DemiBold};
+            return {7.5, QFont::DemiBold};
     }
     return {13, QFont::Normal};
 }
@@ -88,6 +88,15 @@ void setSpaced(QPainter& p, const QRectF& area, const QString& text, Type type, 
     QFont font = typeFace(type);
     font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
     setLine(p, area, text, font, color, horizontal, spacing);
+}
+
+void setFitted(QPainter& p, const QRectF& area, const QString& text, Type type, const QColor& color,
+               const QString& beside) {
+    QFont font = typeFace(type);
+    const QFontMetricsF metrics(font);
+    const double width = std::max(metrics.horizontalAdvance(text), metrics.horizontalAdvance(beside));
+    if (width > area.width()) font.setPointSizeF(font.pointSizeF() * area.width() / width);
+    setLine(p, area, text, font, color, Qt::AlignHCenter, 0);
 }
 
 double textWidth(const QString& text, Type type) {

@@ -34,6 +34,9 @@ void setText(QPainter& p, const QRectF& area, const QString& text, Type type, co
 /// Capitals with wide spacing, for wordmarks and group headings.
 void setSpaced(QPainter& p, const QRectF& area, const QString& text, Type type, const QColor& color,
                double spacing, Qt::Alignment horizontal = Qt::AlignHCenter);
+/// The same, set smaller where the line, or the one that stands beside it, is wider than the area.
+void setFitted(QPainter& p, const QRectF& area, const QString& text, Type type, const QColor& color,
+               const QString& beside = {});
 double textWidth(const QString& text, Type type);
 
 } // namespace tarnix::art

@@ -59,6 +59,15 @@ std::optional<FileError> readGKeys(LineReader& lines, ProfileRecord& record) {
     return std::nullopt;
 }
 
+void appendGKey(std::string& text, const std::string& key, const GKeySlot& slot) {
+    std::string digits;
+    for (const std::uint8_t byte : slot.Value)
+        appendHexByte(digits, byte);
+    appendLine(text, key + "Name=" + slot.Name);
+    appendLine(text, '\t' + key + "Value=" + digits);
+    appendLine(text, '\t' + key + "URL=" + slot.Url);
+}
+
 } // namespace
 
 std::optional<FileError> parseProfile(std::string_view text, ProfileRecord& record) {

@@ -27,19 +27,37 @@ void paintCancel(Sheet& sheet, const ControlRow& row) {
                      });
 }
 
+const QColor& closeHoverPlate = palette::mossDark;
+
 void paintCloseSign(QPainter& p, const QRectF& area, int frame) {
     const bool rest = Frame(frame) == Frame::Rest;
     if (!rest)
-        plate(p, area, 4, Frame(frame) == Frame::Hover ? palette::mossDark : palette::ink, palette::mossDark);
+        plate(p, area, 4, Frame(frame) == Frame::Hover ? closeHoverPlate : palette::ink, closeHoverPlate);
     cross(p, area.center(), 3.2, 1.6, rest ? palette::ink : palette::paper);
 }
 
-/// Both numbers of a close button's record get the strip. `picture` holds the widest frames that a dialog
-/// copies.
-void paintClose(Sheet& sheet, const ControlRow& row, Size picture) {
+/// Both numbers of a close button's record get the strip.
+void paintClose(Sheet& sheet, const ControlRow& row) {
     for (int id : {row.region.bitmap, row.region.secondBitmap})
-        sheet.keyedStrip(static_cast<unsigned>(id), frameOf(row), picture, dialogTitleGround,
-                         dialogTitleGround, paintCloseSign);
+        sheet.keyedStrip(static_cast<unsigned>(id), frameOf(row), dialogTitleGround, dialogTitleGround,
+                         paintCloseSign);
+}
+
+/// The notices' close button, whose strip the profile form copies in wider frames. There the first frame also
+/// shows the left half of the hover frame: its plate has the colour of the form's key pixel and so stays out
+/// of sight.
+void paintSharedClose(Sheet& sheet, const ControlRow& narrow, const ControlRow& wide) {
+    const Size wideFrame = frameOf(wide);
+    const QRectF keyPixel(wide.region.keyX, wide.region.keyY, 1, 1);
+    const double height = narrow.region.frameHeight;
+    const auto paint = [keyPixel, height](QPainter& p, const QRectF& area, int frame) {
+        if (frame == 0) p.fillRect(keyPixel, closeHoverPlate);
+        paintCloseSign(p, QRectF(area.left(), area.top(), area.width(), height), frame);
+    };
+    for (int id : {narrow.region.bitmap, narrow.region.secondBitmap})
+        sheet.keyedStrip(static_cast<unsigned>(id), {narrow.region.frameWidth, wideFrame.height},
+                         {wideFrame.width * 3, wideFrame.height}, dialogTitleGround, dialogTitleGround,
+                         paint);
 }
 
 } // namespace
@@ -53,11 +71,10 @@ void paintDialogButtons(Sheet& sheet) {
     paintOk(sheet, controlOf(launch::controls, okButton));
     paintCancel(sheet, controlOf(launch::controls, cancelButton));
 
-    const Size formFrame = frameOf(controlOf(profile::controls, closeButton));
-    paintClose(sheet, controlOf(notice::controls, closeButton), {formFrame.width * 3, formFrame.height});
-    for (const ControlRow& row :
-         {controlOf(shortcut::controls, closeButton), controlOf(launch::controls, closeButton)})
-        paintClose(sheet, row, {row.region.frameWidth * 3, row.region.frameHeight});
+    paintSharedClose(sheet, controlOf(notice::controls, closeButton),
+                     controlOf(profile::controls, closeButton));
+    paintClose(sheet, controlOf(shortcut::controls, closeButton));
+    paintClose(sheet, controlOf(launch::controls, closeButton));
 }
 
 } // namespace tarnix::art

@@ -1,5 +1,6 @@
 #include "artist/controls.h"
 #include "artist/dialog_frame.h"
+#include "artist/emblem.h"
 #include "artist/subjects.h"
 #include "ui/dialog_layouts.h"
 
@@ -63,7 +64,7 @@ void paintKeyMap(Sheet& sheet) {
         const Rect name = placeOf(controls, keyName);
         setText(p, QRectF(93, name.top - 2, 70, 20), QStringLiteral("Key"), Type::Label, palette::paper,
                 Qt::AlignLeft);
-        labelBeside(p, placeOf(controls, keyRadio), QStringLiteral("Keyboard key"));
+        labelBeside(p, placeOf(controls, keyRadio), QStringLiteral("Keyboard function"));
         labelBeside(p, placeOf(controls, mouseRadio), QStringLiteral("Mouse function"));
         const QRectF value = rectF(placeOf(controls, keyFunction));
         plate(p, value.adjusted(-1, -3, 1, 3), 5, palette::sagePale, palette::sage);
@@ -101,6 +102,19 @@ void paintQuickLaunch(Sheet& sheet) {
     });
 }
 
+/// The form copies only the top left of the notices' button strips. The rest of a button, as far as there is
+/// room for it, stands in the background, so that the two together are a whole one.
+void completeButton(QPainter& p, const Rect& place, double room, const QString& word, ButtonLook look) {
+    const Rect whole = placeOf(dialog::notice::controls, dialog::okButton);
+    const QRectF area(place.left, place.top, whole.width(), whole.height());
+    const QRectF shown(area.left(), area.top(), std::min(room, area.width()), area.height());
+    button(p, shown, QString(), look, Frame::Rest, Type::Button);
+    p.save();
+    p.setClipRect(shown.adjusted(8, 4, -4, -4));
+    button(p, area, word, look, Frame::Rest, Type::Button);
+    p.restore();
+}
+
 void paintEditProfile(Sheet& sheet) {
     using namespace dialog::profile;
     sheet.face(background, size, [](QPainter& p) {
@@ -114,6 +128,11 @@ void paintEditProfile(Sheet& sheet) {
                 palette::paper, Qt::AlignLeft);
         for (unsigned row : {path1, path2, path3})
             paintDarkField(p, rectF(placeOf(controls, row)).adjusted(-4, 0.5, 1, -0.5));
+        paintWordmark(p, QRectF(350, 92, 150, 100));
+        const Rect ok = placeOf(controls, dialog::okButton);
+        const Rect cancel = placeOf(controls, dialog::cancelButton);
+        completeButton(p, ok, cancel.left - ok.left - 3, QStringLiteral("OK"), ButtonLook::Main);
+        completeButton(p, cancel, size.width, QStringLiteral("Cancel"), ButtonLook::Quiet);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "artist/controls.h"
 #include "artist/shapes.h"
+#include "artist/step_signs.h"
 #include "artist/subjects.h"
 #include "macro_manager/manager_layout.h"
 #include "res/resource_ids.h"
@@ -118,25 +119,9 @@ void paintScrollArrow(QPainter& p, const QRectF& area, int frame, Direction dire
     chevron(p, area.center(), 3.6, direction, 1.8, ink);
 }
 
-void paintStepIcons(Sheet& sheet) {
-    const auto press = [](QPainter& p, const QRectF& a, int) {
-        plate(p, QRectF(a.left() + 1, a.top() + 9, 12, 4), 2, palette::mossDeep, palette::moss);
-        arrow(p, QPointF(a.center().x(), a.top() + 4.5), 7, Direction::Down, 1.6, palette::spring);
-    };
-    const auto release = [](QPainter& p, const QRectF& a, int) {
-        plate(p, QRectF(a.left() + 1, a.top() + 9, 12, 4), 2, palette::slate, palette::mist);
-        arrow(p, QPointF(a.center().x(), a.top() + 4.5), 7, Direction::Up, 1.6, palette::paper);
-    };
-    const auto delay = [](QPainter& p, const QRectF& a, int) {
-        p.setPen(QPen(palette::warm, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        p.setBrush(Qt::NoBrush);
-        p.drawEllipse(a.center(), 5.5, 5.5);
-        p.drawLine(a.center(), a.center() + QPointF(0, -3.2));
-        p.drawLine(a.center(), a.center() + QPointF(2.4, 1));
-    };
-    sheet.strip(picture::stepPress, picture::stepIconSize, 1, press);
-    sheet.strip(picture::stepRelease, picture::stepIconSize, 1, release);
-    sheet.strip(picture::stepDelay, picture::stepIconSize, 1, delay);
+void paintStepIcon(Sheet& sheet, unsigned id, void (*paint)(QPainter&, const QRectF&)) {
+    sheet.strip(id, picture::stepIconSize, 1,
+                [paint](QPainter& p, const QRectF& area, int) { paint(p, area); });
 }
 
 } // namespace
@@ -166,7 +151,9 @@ void paintFields(Sheet& sheet) {
     sheet.strip(picture::popupFace, picture::popupFaceSize, 1, [](QPainter& p, const QRectF& area, int) {
         plate(p, area, 1, palette::sage, palette::spring);
     });
-    paintStepIcons(sheet);
+    paintStepIcon(sheet, picture::stepPress, paintStepPress);
+    paintStepIcon(sheet, picture::stepRelease, paintStepRelease);
+    paintStepIcon(sheet, picture::stepDelay, paintStepDelay);
 }
 
 } // namespace tarnix::art

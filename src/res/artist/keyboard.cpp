@@ -105,6 +105,12 @@ void paintCase(QPainter& p) {
     p.setOpacity(1);
 }
 
+void paintRestingKeyboard(QPainter& p) {
+    paintCase(p);
+    for (const ControlRow& cap : keyCaps)
+        if (capIsShown(cap)) paintCap(p, rectF(cap.rect), legendOf(cap.text), Frame::Rest);
+}
+
 void paintLitKeyboard(QPainter& p) {
     const QRectF shell = caseArea();
     const Rect extent = capsExtent();

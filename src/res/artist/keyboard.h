@@ -18,6 +18,9 @@ Rect capsExtent();
 /// The case around the caps, in the window's coordinates.
 void paintCase(QPainter& p);
 
+/// The keyboard with its caps at rest.
+void paintRestingKeyboard(QPainter& p);
+
 /// The whole keyboard with its caps lit in the colours of the rainbow, in the window's coordinates.
 void paintLitKeyboard(QPainter& p);
 

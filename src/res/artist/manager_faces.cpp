@@ -1,5 +1,6 @@
 #include "artist/controls.h"
 #include "artist/dialog_frame.h"
+#include "artist/step_signs.h"
 #include "artist/subjects.h"
 #include "macro_manager/manager_layout.h"
 
@@ -16,6 +17,32 @@ void columnTitle(QPainter& p, double left, double top, const QString& words) {
 void listFrame(QPainter& p, const Rect& list, const Rect& bar) {
     plate(p, rectF({list.left, list.top, bar.right, list.bottom}).adjusted(-2, -2, 2, 2), 4, palette::navy,
           palette::lineBright);
+}
+
+struct StepSign {
+    void (*paint)(QPainter&, const QRectF&);
+    const char* words;
+};
+
+constexpr StepSign stepSigns[] = {
+    {paintStepPress, "Key pressed"}, {paintStepRelease, "Key released"}, {paintStepDelay, "Delay"}};
+
+/// How a recording goes, and what the signs in the list of steps mean.
+void paintHints(QPainter& p, double left, double top) {
+    double y = top;
+    for (const char* line :
+         {"Choose a macro and press", "Record, type what it shall", "hold, then press Stop."}) {
+        setText(p, QRectF(left, y, 200, 18), QString::fromLatin1(line), Type::Caption, palette::mist,
+                Qt::AlignLeft);
+        y += 18;
+    }
+    y += 16;
+    for (const auto& [sign, words] : stepSigns) {
+        sign(p, QRectF(left, y, 14, 14));
+        setText(p, QRectF(left + 24, y - 2, 160, 18), QString::fromLatin1(words), Type::Caption,
+                palette::mist, Qt::AlignLeft);
+        y += 22;
+    }
 }
 
 void paintManager(Sheet& sheet) {
@@ -38,6 +65,7 @@ void paintManager(Sheet& sheet) {
         columnTitle(p, record.left, record.top - 27, QStringLiteral("Recording"));
         labelBeside(p, placeOf(managerControls, recordDelays), QStringLiteral("Record delays"),
                     Type::Caption);
+        paintHints(p, record.left, placeOf(managerControls, recordDelays).bottom + 30);
     });
 }
 

@@ -17,12 +17,13 @@ void groupHeading(QPainter& p, const QRectF& above, const QString& words) {
             Qt::AlignLeft);
 }
 
-/// A swatch and what it means, for the line below the keyboard.
-double legendEntry(QPainter& p, double x, double y, const QColor& top, const QColor& edge,
+/// A swatch and what it means, ending at `right`; answers where the next one to the left ends.
+double legendEntry(QPainter& p, double right, double y, const QColor& fill, const QColor& edge,
                    const QString& words) {
-    plate(p, QRectF(x, y - 6, 12, 12), 3.5, top, edge);
-    setText(p, QRectF(x + 19, y - 9, 240, 18), words, Type::Caption, palette::mist, Qt::AlignLeft);
-    return x + 19 + textWidth(words, Type::Caption) + 22;
+    const double left = right - textWidth(words, Type::Caption) - 19;
+    plate(p, QRectF(left, y - 6, 12, 12), 3.5, fill, edge);
+    setText(p, QRectF(left + 19, y - 9, 240, 18), words, Type::Caption, palette::mist, Qt::AlignLeft);
+    return left - 22;
 }
 
 void paintKeyPage(QPainter& p) {
@@ -30,15 +31,9 @@ void paintKeyPage(QPainter& p) {
     const double y = 455;
     setText(p, QRectF(53, y - 9, 300, 18), QStringLiteral("Click a key to give it another function."),
             Type::Caption, palette::mist, Qt::AlignLeft);
-    const double x = legendEntry(p, 560, y, palette::sage, palette::sagePale, QStringLiteral("As printed"));
-    legendEntry(p, x, y, palette::spring, palette::springLight, QStringLiteral("Remapped"));
-}
-
-/// A card with a title, for the pages of lists and fields.
-void card(QPainter& p, const QRectF& area, const QString& title) {
-    plate(p, area, 10, palette::slate, palette::line);
-    setText(p, QRectF(area.left() + 16, area.top() + 8, area.width() - 32, 22), title, Type::Button,
-            palette::paper, Qt::AlignLeft);
+    const double x =
+        legendEntry(p, 751, y, palette::spring, palette::springLight, QStringLiteral("Remapped"));
+    legendEntry(p, x, y, palette::sage, palette::sagePale, QStringLiteral("As printed"));
 }
 
 void listFrame(QPainter& p, const Rect& list, const Rect& bar) {
@@ -47,11 +42,13 @@ void listFrame(QPainter& p, const Rect& list, const Rect& bar) {
 }
 
 void paintMacroPage(QPainter& p) {
-    card(p, QRectF(146, 196, 171, 276), QStringLiteral("Macros"));
+    groupHeading(p, rectF(macroListRect), QStringLiteral("Macros"));
     listFrame(p, macroListRect, placeOf(macroPageScrollBars, id::macroScrollBar));
-    card(p, QRectF(376, 196, 171, 276), QStringLiteral("Steps"));
+    groupHeading(p, rectF(actionListRect), QStringLiteral("Steps"));
     listFrame(p, actionListRect, placeOf(macroPageScrollBars, id::actionScrollBar));
-    card(p, QRectF(606, 196, 150, 276), QStringLiteral("Recording"));
+    const Rect record = placeOf(macroPageControls, id::recordSwitch);
+    groupHeading(p, rectF({record.left, macroListRect.top, record.right, record.bottom}),
+                 QStringLiteral("Recording"));
     for (const auto& [control, words] :
          {std::pair{id::delayCheck, "Record delays"}, std::pair{id::loopCheck, "Loop"}}) {
         const QRectF box = rectF(placeOf(macroPageControls, control));
@@ -62,13 +59,28 @@ void paintMacroPage(QPainter& p) {
     plate(p, field.adjusted(-2, -2, 2, 2), 4, QColor(255, 255, 255), palette::lineBright);
 }
 
+/// A smaller keyboard beside the controls of a page, centred at a point.
+void paintBeside(QPainter& p, const QPointF& centre, double scale, void (*paintKeyboard)(QPainter&)) {
+    p.save();
+    QPainterPath stage;
+    stage.addRoundedRect(stageArea().adjusted(1, 1, -1, -1), stageRadius, stageRadius);
+    p.setClipPath(stage, Qt::IntersectClip);
+    p.translate(centre);
+    p.scale(scale, scale);
+    p.translate(-rectF(capsExtent()).center());
+    paintKeyboard(p);
+    p.restore();
+}
+
 void paintGKeyPage(QPainter& p) {
-    card(p, QRectF(53, 196, 320, 214), QStringLiteral("G-key functions"));
+    groupHeading(p, rectF(gKeyFields[0].rect).translated(53 - gKeyFields[0].rect.left, 0),
+                 QStringLiteral("Functions of the G-keys"));
     for (std::size_t i = 0; i < gKeyFields.size(); ++i) {
         const QRectF field = rectF(gKeyFields[i].rect);
-        setText(p, QRectF(69, field.top(), 80, field.height()), QStringLiteral("G-key %1").arg(i + 1),
+        setText(p, QRectF(53, field.top(), 80, field.height()), QStringLiteral("G-key %1").arg(i + 1),
                 Type::Label, palette::paper, Qt::AlignLeft);
     }
+    paintBeside(p, QPointF(552, 312), 0.5, paintRestingKeyboard);
 }
 
 void paintLightingPage(QPainter& p) {
@@ -76,13 +88,7 @@ void paintLightingPage(QPainter& p) {
     for (std::size_t i = 0; i < lightingFields.size(); ++i)
         groupHeading(p, rectF(lightingFields[i].rect), QString::fromLatin1(headings[i]));
     p.fillRect(QRectF(238, 190, 1, 268), palette::line);
-    constexpr double scale = 0.71;
-    p.save();
-    p.translate(QPointF(502, 306));
-    p.scale(scale, scale);
-    p.translate(-rectF(capsExtent()).center());
-    paintLitKeyboard(p);
-    p.restore();
+    paintBeside(p, QPointF(502, 306), 0.71, paintLitKeyboard);
     setText(p, QRectF(53, 446, 180, 18), QStringLiteral("Kept with each profile."), Type::Caption,
             palette::mist, Qt::AlignLeft);
 }

@@ -48,10 +48,9 @@ void paintCommandBar(QPainter& p) {
             Type::Caption, palette::mist, Qt::AlignLeft);
 }
 
-/// The stage that the pages stand on; the bands cover its middle.
 void paintStage(QPainter& p) {
-    const QRectF stage(columnLeft - 16, 167, columnRight - columnLeft + 32, 313);
-    plate(p, stage, 12, vertical(stage, palette::stage, palette::abyss),
+    const QRectF stage = stageArea();
+    plate(p, stage, stageRadius, vertical(stage, palette::stage, palette::abyss),
           mixed(palette::navy, palette::line, 0.6));
 }
 
@@ -73,6 +72,10 @@ void paintFoot(QPainter& p) {
 }
 
 } // namespace
+
+QRectF stageArea() {
+    return {columnLeft - 16, 167, columnRight - columnLeft + 32, 313};
+}
 
 void paintWindowFace(QPainter& p) {
     paintGround(p, QRectF(0, 0, mainWindowSize.width, mainWindowSize.height));

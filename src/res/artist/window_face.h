@@ -8,6 +8,10 @@ namespace tarnix::art {
 
 inline constexpr double windowCornerRadius = 12;
 
+/// The stage that the pages stand on, in the window's coordinates; the bands cover its middle.
+QRectF stageArea();
+inline constexpr double stageRadius = 12;
+
 /// In the window's coordinates.
 void paintWindowFace(QPainter& p);
 

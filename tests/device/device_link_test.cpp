@@ -1,0 +1,244 @@
+#include <gmock/gmock.h>
+
+#include "device_bench.h"
+
+namespace tarnix {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const std::string eventPath = VirtualHid::pathOf(VirtualKeyboard::eventInterface);
+const std::string featurePath = VirtualHid::pathOf(VirtualKeyboard::featureInterface);
+
+const Words plainRead{"05?",    "04 0.0", "07?",    "04 1.0", "07?",    "04 2.0", "07?",
+                      "04 0.0", "06?",    "04 1.0", "06?",    "04 2.0", "06?"};
+
+/// A bench whose keyboard differs from the factory's in every profile and holds a named and a nameless macro.
+struct UsedBench : DeviceBench {
+    UsedBench() {
+        for (std::uint8_t p = 0; p < 3; ++p) {
+            keyboard.profiles[p].lighting = {static_cast<std::uint8_t>(0x20 + p), 0x01, 0x23, 0x45};
+            keyboard.profiles[p].keyCodes[16] = static_cast<std::uint8_t>(0x50 + p);
+        }
+        keyboard.activeProfile = 2;
+        keyboard.profiles[0].macros[5] = {"Named", 1, 1, {4, 0}};
+        keyboard.profiles[2].macros[0] = {std::nullopt, 0, 1, {5, 0}};
+        keyboard.profiles[0].gKeys[15] = keyboard.profiles[2].gKeys[0] = 0x01;
+    }
+};
+
+TEST(DeviceLink, FullReadTakesProfilesThenMacrosAndSavesTheLibrary) {
+    DeviceBench plain;
+    plain.start();
+    EXPECT_EQ(plain.requests(), plainRead);
+    EXPECT_EQ(plain.totalPause(), 96);
+    EXPECT_EQ(plain.told(), Words{"show 0"});
+    EXPECT_THAT(plain.files.log, IsEmpty());
+    plain.link->ReadDeviceState();
+    EXPECT_THAT(plain.requests(), IsEmpty()) << "once is enough until the keyboard has been away";
+
+    UsedBench used;
+    used.start();
+    Words expected = plainRead;
+    expected.insert(expected.end(), {"04 0.5", "08?", "04 2.0", "08?", "08 2.0"});
+    EXPECT_EQ(used.requests(), expected);
+    EXPECT_EQ(used.totalPause(), 96 + 2 * 16 + 350);
+    EXPECT_EQ(used.told(), (Words{"macros", "show 2"}));
+    EXPECT_EQ(used.files.log.size(), 1u);
+    EXPECT_EQ(used.protocol().deviceProfile(), 2);
+    EXPECT_EQ(used.store.settingNumber(1, settingLightBrightness), 2);
+    EXPECT_EQ(used.store.ProfileTable[1].KeyCodes[16], 0x51);
+    EXPECT_EQ(used.store.GetGKeyName(0, 5) + used.store.GetGKeyName(2, 0), "NamedProfile3_G1");
+    EXPECT_EQ(used.keyboard.profiles[2].macros[0].name, "Profile3_G1");
+
+    DeviceBench changed;
+    changed.link->pending().m_bMacroLibraryChanged = true;
+    changed.start();
+    EXPECT_EQ(changed.files.log.size(), 1u);
+    EXPECT_FALSE(changed.link->pending().m_bMacroLibraryChanged);
+}
+
+TEST(DeviceLink, AnImpossibleActiveProfileEndsTheFullReadUntilTheNextUnplugging) {
+    DeviceBench bench;
+    bench.keyboard.activeProfile = 0x0B;
+    bench.store.SetCurrentProfileText(1);
+    bench.start();
+    bench.keyboard.activeProfile = 0;
+    bench.link->ReadDeviceState();
+    EXPECT_EQ(bench.requests(), Words{"05?"});
+    EXPECT_EQ(bench.protocol().deviceProfile(), 3);
+    EXPECT_EQ(bench.store.currentProfile(), 1);
+    EXPECT_THAT(bench.told(), IsEmpty());
+    bench.unplug();
+    bench.replug();
+    EXPECT_EQ(bench.requests(), plainRead);
+}
+
+TEST(DeviceLink, AFailureInTheFullReadLosesThatPartAlone) {
+    UsedBench whole;
+    const auto before = whole.store.ProfileTable;
+    whole.start();
+    const int wholePause = whole.totalPause();
+    for (std::size_t failing = 0; failing < 18; ++failing) {
+        SCOPED_TRACE(failing);
+        UsedBench bench;
+        bench.keyboard.failRequest(failing);
+        bench.start();
+        EXPECT_EQ(bench.told(), (Words{"macros", failing == 0 ? "show 0" : "show 2"}));
+        const Words sent = bench.requests();
+        EXPECT_EQ(sent.at(failing).back(), '!');
+        if (failing % 2 == 1 &&
+            failing < 17) { // a selection: what the get then answers is the keyboard's affair
+            EXPECT_EQ(sent.at(failing + 1).back(), '?');
+            continue;
+        }
+        auto expected = whole.store.ProfileTable;
+        const std::size_t profile = failing / 2 - (failing < 8 ? 1 : 4);
+        if (failing >= 2 && failing <= 6) expected[profile].Settings = before[profile].Settings;
+        if (failing >= 8 && failing <= 12) {
+            expected[profile].KeyCodes = before[profile].KeyCodes;
+            expected[profile].GKeys = before[profile].GKeys; // and so no macro to ask for
+        }
+        if (failing == 14) expected[0].GKeys[5].Name = before[0].GKeys[5].Name;
+        if (failing == 16) expected[2].GKeys[0].Name = before[2].GKeys[0].Name;
+        EXPECT_EQ(bench.store.ProfileTable, expected);
+        const int lost = failing == 8 ? 16 : failing == 12 ? 16 + 350 : failing == 16 ? 350 : 0;
+        EXPECT_EQ(bench.totalPause(), wholePause - lost);
+    }
+}
+
+TEST(DeviceLink, TheLastMatchAmongTheFirstThirtyInterfacesIsTaken) {
+    DeviceBench bench;
+    bench.hid.before.assign(30, VirtualHid::mouse("mouse"));
+    bench.start();
+    EXPECT_FALSE(bench.link->isDeviceFound());
+    bench.hid.before.resize(27);
+    bench.hid.tell(HidChange::Arrival);
+    EXPECT_EQ(bench.requests(), plainRead);
+
+    bench.hid.before.clear();
+    bench.hid.after.push_back({"second", VirtualKeyboard::vendor, VirtualKeyboard::product, 0x000B, 0});
+    bench.link->FindDevice();
+    EXPECT_FALSE(bench.protocol().SetActiveProfile(0)) << "the second keyboard takes no reports here";
+    EXPECT_THAT(bench.requests(), IsEmpty());
+    EXPECT_EQ(bench.event(eventReport::windowsKeyLock, 0).back(), "event 4")
+        << "the first one is still heard";
+}
+
+TEST(DeviceLink, HalfAKeyboardDoesWhatItCan) {
+    DeviceBench bench;
+    bench.hid.locked = {eventPath, featurePath};
+    bench.start();
+    EXPECT_FALSE(bench.link->isDeviceFound());
+    bench.hid.locked = {featurePath};
+    bench.hid.tell(HidChange::Arrival);
+    EXPECT_TRUE(bench.link->isDeviceFound());
+    EXPECT_FALSE(bench.protocol().hasHandle());
+    EXPECT_EQ(bench.event(eventReport::profileChanged, 2), (Words{"show 1", "event 2"}));
+    bench.unplug();
+
+    bench.hid.locked = {eventPath};
+    bench.replug();
+    EXPECT_EQ(bench.requests(), plainRead);
+    bench.hid.locked = {featurePath}; // found once, not to be opened any more
+    bench.link->FindDevice();
+    bench.pauses();
+    EXPECT_FALSE(bench.protocol().WriteKeyCodes(0));
+    EXPECT_EQ(bench.protocol().GetActiveProfile(), 0);
+    EXPECT_THAT(bench.requests(), IsEmpty());
+    EXPECT_THAT(bench.pauses(), ElementsAre(350));
+
+    bench.hid.locked.clear();
+    bench.hid.missing = {VirtualKeyboard::featureInterface};
+    bench.hid.after.push_back(VirtualHid::mouse("mouse")); // where the feature interface was
+    bench.link->FindDevice();
+    EXPECT_FALSE(bench.protocol().hasHandle());
+}
+
+TEST(DeviceLink, OtherDevicesComingAndGoingDisturbNothing) {
+    DeviceBench bench;
+    bench.hid.before.push_back(VirtualHid::mouse("mouse"));
+    bench.startQuietly();
+    const std::size_t opened = bench.hid.openCount();
+    bench.hid.tell(HidChange::Arrival);
+    EXPECT_EQ(bench.hid.openCount(), opened) << "nobody searches while the keyboard is known";
+    bench.hid.before.clear();
+    bench.hid.tell(HidChange::Removal);
+    bench.loop.runPosted();
+    EXPECT_THAT(bench.requests(), IsEmpty());
+    EXPECT_TRUE(bench.protocol().SetActiveProfile(1)) << "at its new place";
+    EXPECT_EQ(bench.event(eventReport::windowsKeyLock, 1), Words{"event 5"});
+    EXPECT_EQ(bench.hid.openDevices(), 2) << "one to hear, one to talk";
+}
+
+TEST(DeviceLink, UnplugWarnsOnceAndReplugReadsAllAgain) {
+    DeviceBench bench;
+    bench.startQuietly();
+    bench.store.SetLightMode(1, 9);
+    bench.link->pending().mark(PendingWrites::lightingRow, 1);
+    bench.unplug();
+    bench.unplug();
+    EXPECT_EQ(bench.told(), Words{"notice"});
+    EXPECT_EQ(bench.hid.openDevices(), 0);
+    EXPECT_EQ(bench.protocol().deviceProfile(), 0);
+    EXPECT_TRUE(bench.link->pending().isMarked(PendingWrites::lightingRow, 1));
+    EXPECT_EQ(bench.store.settingNumber(1, settingLightMode), 9);
+    bench.replug();
+    EXPECT_EQ(bench.requests(), plainRead);
+    EXPECT_EQ(bench.store.settingNumber(1, settingLightMode), 1) << "what was not applied is lost";
+
+    bench.told();
+    bench.owner.whileNoticeIsOpen = [&] {
+        bench.replug();
+        bench.unplug();
+        bench.replug();
+    };
+    bench.unplug();
+    bench.unplug();
+    EXPECT_EQ(bench.told(), (Words{"notice", "show 0", "show 0", "notice"}));
+}
+
+TEST(DeviceLink, AKeyboardThatIsBackBeforeItsRemovalIsToldIsHeardAgain) {
+    DeviceBench bench;
+    bench.startQuietly();
+    const std::size_t opened = bench.hid.openCount();
+    bench.hid.unplug();
+    bench.hid.plugIn();
+    bench.hid.tell(HidChange::Removal);
+    bench.hid.tell(HidChange::Arrival);
+    // Two opens of the search, one to talk, and one to hear when the old listener has ended.
+    ASSERT_TRUE(bench.loop.runUntil([&] { return bench.hid.openCount() == opened + 4; }));
+    EXPECT_EQ(bench.event(eventReport::windowsKeyLock, 0), Words{"event 4"});
+    EXPECT_TRUE(bench.protocol().SetActiveProfile(2));
+}
+
+TEST(DeviceLink, ClosingTakesLeaveExactlyOnce) {
+    for (const bool refused : {false, true}) {
+        DeviceBench bench;
+        bench.startQuietly();
+        bench.link->pending().mark(PendingWrites::lightingRow, 0);
+        if (refused) bench.keyboard.failRequest(0);
+        bench.link->close();
+        EXPECT_EQ(bench.requests(), Words{refused ? "05 7!" : "05 7"});
+        EXPECT_THAT(bench.pauses(), ElementsAre(15, 10));
+        EXPECT_EQ(bench.hid.openDevices(), 0);
+        bench.hid.tell(HidChange::Removal);
+        bench.hid.tell(HidChange::Arrival);
+        bench.link.reset();
+        bench.hid.tell(HidChange::Arrival);
+        EXPECT_THAT(bench.requests(), IsEmpty());
+        EXPECT_THAT(bench.files.log, IsEmpty());
+    }
+    DeviceBench unplugged;
+    unplugged.startQuietly();
+    unplugged.hid.unplug();
+    unplugged.hid.tell(HidChange::Removal);
+    unplugged.link.reset();
+    unplugged.loop.runPosted();
+    EXPECT_THAT(unplugged.pauses(), IsEmpty());
+    EXPECT_THAT(unplugged.told(), IsEmpty()) << "a notice that nobody is left to show";
+}
+
+} // namespace
+} // namespace tarnix

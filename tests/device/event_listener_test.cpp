@@ -1,0 +1,153 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <thread>
+
+#include "device_bench.h"
+
+namespace tarnix {
+namespace {
+
+using testing::ElementsAre;
+using Bytes = std::vector<std::uint8_t>;
+
+std::ptrdiff_t threadCount() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+}
+
+class EventListenerTest : public testing::Test {
+  protected:
+    /// Waits for something that another thread brings about.
+    template <class Condition>
+    static bool comesTrue(Condition condition) {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        while (!condition() && std::chrono::steady_clock::now() < deadline)
+            std::this_thread::yield();
+        return condition();
+    }
+
+    HidInterface eventInterface(std::size_t length = 8) const {
+        return {VirtualHid::pathOf(VirtualKeyboard::eventInterface), 0x04F3, 0x1406, 0x000A, length};
+    }
+
+    /// Sends reports numbered from 0 in their code and value.
+    void emit(int count) {
+        for (int i = 0; i < count; ++i) {
+            keyboard.emit(static_cast<std::uint8_t>(i >> 8), static_cast<std::uint8_t>(i));
+        }
+    }
+
+    static int numberOf(const Bytes& report) { return report.at(1) << 8 | report.at(2); }
+
+    FakeClock clock;
+    VirtualKeyboard keyboard{clock};
+    VirtualHid hid{keyboard};
+    QueueLoop loop;
+    std::vector<Bytes> heard;
+    const std::thread::id mainThread = std::this_thread::get_id();
+    std::unique_ptr<EventListener> listener =
+        std::make_unique<EventListener>(hid, loop, [this](std::span<const std::uint8_t> report) {
+            EXPECT_EQ(std::this_thread::get_id(), mainThread);
+            heard.emplace_back(report.begin(), report.end());
+        });
+};
+
+TEST_F(EventListenerTest, ABurstArrivesWholeAndInOrder) {
+    listener->start(eventInterface());
+    listener->start(eventInterface());
+    EXPECT_EQ(hid.openDevices(), 1);
+    emit(1000);
+    ASSERT_TRUE(loop.runUntil([this] { return heard.size() == 1000; }));
+    for (int i = 0; i < 1000; ++i)
+        ASSERT_EQ(numberOf(heard[i]), i);
+}
+
+TEST_F(EventListenerTest, AFloodIsReadNoFasterThanItIsHeard) {
+    listener->start(eventInterface());
+    emit(6000);
+    ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 4096; }));
+    ASSERT_TRUE(loop.runUntil([this] { return heard.size() == 6000; }));
+    EXPECT_EQ(numberOf(heard.back()), 5999);
+
+    emit(6000);
+    ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 4096; }));
+    listener->stop();
+    loop.runPosted();
+    EXPECT_EQ(heard.size(), 6000u + 4096u) << "what was read before the stop is still heard";
+}
+
+TEST_F(EventListenerTest, BytesThatAReportLeavesOutKeepWhatWasThere) {
+    listener->start(eventInterface(11));
+    keyboard.emit(0x31, 0x32);
+    keyboard.onEvent(Bytes{0x41});
+    ASSERT_TRUE(loop.runUntil([this] { return heard.size() == 2; }));
+    EXPECT_THAT(heard[0], ElementsAre(0, 0x31, 0x32, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0xFF));
+    EXPECT_THAT(heard[1], ElementsAre(0, 0x41, 0x32, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0xFF));
+}
+
+TEST_F(EventListenerTest, SenselessReportLengthsAreSurvived) {
+    DeviceBench bench;
+    DeviceEvents events(bench.protocol(), {bench.store, bench.macros, bench.files, bench.folder},
+                        bench.owner);
+    for (const std::size_t length : {std::size_t{0}, std::size_t{2}, ~std::size_t{0}}) {
+        heard.clear();
+        listener->start(eventInterface(length));
+        keyboard.emit(3, 0);
+        ASSERT_TRUE(loop.runUntil([this] { return !heard.empty(); }));
+        EXPECT_LE(heard[0].size(), 4096u);
+        events.dispatch(heard[0]);
+        listener->stop();
+    }
+    EXPECT_EQ(bench.told(), Words{"event 4"}) << "from the long one";
+}
+
+TEST_F(EventListenerTest, StopEndsTheWaitAndTheOwnersEndDropsWhatIsPosted) {
+    const auto threads = threadCount();
+    listener->start(eventInterface());
+    listener->stop();
+    EXPECT_EQ(hid.openDevices(), 0);
+    EXPECT_TRUE(comesTrue([&] { return threadCount() == threads; }));
+    loop.runPosted();
+    listener->start(eventInterface());
+    emit(3);
+    ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 3; }));
+    listener.reset();
+    loop.runPosted();
+    EXPECT_THAT(heard, testing::IsEmpty());
+}
+
+TEST_F(EventListenerTest, ADeadDeviceEndsTheThreadAndAStartMeanwhileTakesOver) {
+    listener->start(eventInterface());
+    hid.unplug();
+    ASSERT_TRUE(loop.runUntil([this] { return hid.openDevices() == 0; }));
+    hid.plugIn();
+    listener->start(eventInterface());
+    hid.unplug();
+    hid.plugIn();
+    listener->start(eventInterface());
+    listener->start(eventInterface());
+    ASSERT_TRUE(loop.runUntil([this] { return hid.openCount() == 3; }));
+    keyboard.emit(7, 7);
+    ASSERT_TRUE(loop.runUntil([this] { return !heard.empty(); }));
+    loop.runPosted();
+    EXPECT_EQ(heard.size(), 1u);
+    EXPECT_EQ(hid.openDevices(), 1);
+}
+
+TEST_F(EventListenerTest, TwoHundredReplugsLeaveOneListener) {
+    const auto threads = threadCount();
+    DeviceBench bench;
+    bench.startQuietly();
+    for (int i = 0; i < 200; ++i) {
+        if (i % 3 == 0) bench.keyboard.emit(0x08, 0); // one on its way
+        bench.unplug();
+        bench.replug();
+    }
+    EXPECT_TRUE(comesTrue([&] { return threadCount() == threads + 1; }));
+    EXPECT_EQ(bench.hid.openDevices(), 2);
+    bench.told();
+    EXPECT_EQ(bench.event(0x03, 0), Words{"event 4"});
+}
+
+} // namespace
+} // namespace tarnix

@@ -211,6 +211,7 @@ TEST(MacroFiles, NamesWithLineEndsStayOneLine) {
     AddMacroKey(AddMacroSet(library, "a\nb"), "c\r");
     MacroLibrary read;
     EXPECT_FALSE(parseMacroLibrary(formatMacroLibrary(library, LibraryForm::Long), LibraryForm::Long, read));
+    ASSERT_EQ(read.sets.size(), 1u);
     EXPECT_EQ(read.sets[0].name, "a b");
     EXPECT_EQ(read.sets[0].keys[0].name, "c ");
 }

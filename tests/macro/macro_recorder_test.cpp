@@ -147,6 +147,12 @@ TEST(MacroRecorder, NewRecordingEmptiesTheMacroAndForgetsTheLastKey) {
     EXPECT_EQ(macro.commandCount, 0);
     EXPECT_TRUE(recorder.record(&macro, 0x41, 6, true).taken);
 
+    recorder.start(macro);
+    macro.commandCount = 100;
+    EXPECT_EQ(recorder.record(&macro, 0x41, 7, true).fullNotice, "")
+        << "the first key is not counted against the limit";
+    EXPECT_EQ(macro.actionCount, 1u);
+
     MacroRecorder managers(managerRecording);
     macro.commandCount = 7;
     managers.start(macro);

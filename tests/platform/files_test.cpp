@@ -143,9 +143,11 @@ TEST_F(SystemFilesTest, ForbiddenPlacesAreRefusedAndStayAsTheyAre) {
 
     EXPECT_FALSE(files->replace(at("x/below"), "new"));
     EXPECT_FALSE(files->replace(folder, "new"));
-    EXPECT_FALSE(files->replace("/dev/null", "new"));
+    ASSERT_EQ(::mkfifo(at("pipe").c_str(), 0666), 0);
+    EXPECT_FALSE(files->replace(at("pipe"), "new"));
+    EXPECT_FALSE(files->setAside(at("pipe")));
     EXPECT_FALSE(files->replace("", "new"));
-    EXPECT_THAT(names(), testing::UnorderedElementsAre("x", "read-only", "theirs"));
+    EXPECT_THAT(names(), testing::UnorderedElementsAre("x", "read-only", "theirs", "pipe"));
 }
 
 TEST_F(SystemFilesTest, RefusedFilesMoveAsideAndNothingElseDoes) {

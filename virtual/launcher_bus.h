@@ -55,6 +55,10 @@ class Bus {
     virtual std::unique_ptr<BusPlug> plug(const BusInterface& interface, BusFunction& function) = 0;
 };
 
+/// Starts this program once more with the mocked system's library preloaded, unless it is. Preloaded
+/// libraries are settled when a process starts, and a process without this one sees the real system.
+void preloadMockSystem(char** argv);
+
 /// A mocked /sys and /dev for programs that are started with this process's environment.
 std::unique_ptr<Bus> makeMockBus();
 

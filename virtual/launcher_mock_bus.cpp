@@ -14,6 +14,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <deque>
 #include <filesystem>
@@ -309,6 +310,22 @@ class MockBus final : public Bus {
 };
 
 } // namespace
+
+void preloadMockSystem(char** argv) {
+    const std::string library = "libumockdev-preload.so.0";
+    const auto variable = [](const char* name) {
+        const char* const value = std::getenv(name);
+        return std::string(value == nullptr ? "" : value);
+    };
+    const std::string present = variable("LD_PRELOAD");
+    if (present.find(library) != std::string::npos) return;
+    ::setenv("LD_PRELOAD", (present.empty() ? library : library + ":" + present).c_str(), 1);
+    // A program with the address sanitizer in it would object to a library before the sanitizer's own.
+    ::setenv("ASAN_OPTIONS", (variable("ASAN_OPTIONS") + ":verify_asan_link_order=0").c_str(), 1);
+    ::execv("/proc/self/exe", argv);
+    std::perror("/proc/self/exe");
+    std::exit(EXIT_FAILURE);
+}
 
 std::unique_ptr<Bus> makeMockBus() {
     return std::make_unique<MockBus>();

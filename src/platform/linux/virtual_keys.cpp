@@ -168,8 +168,7 @@ constexpr KeyPair keyPairs[] = {
     {KEY_STOP, 0xA9},
     {KEY_SEARCH, 0xAA},
     {KEY_BOOKMARKS, 0xAB},
-    {KEY_HOMEPAGE, 0xAC},
-};
+    {KEY_HOMEPAGE, 0xAC}};
 
 constexpr std::array<std::uint8_t, 256> makeTable() {
     std::array<std::uint8_t, 256> table{};

@@ -1,0 +1,258 @@
+#include "platform/hid.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <future>
+#include <thread>
+
+#include "hand_loop.h"
+#include "virtual/glib_source.h"
+#include "virtual/launcher_bus.h"
+#include "virtual/virtual_keyboard.h"
+
+namespace tarnix {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using ReadResult = HidDevice::ReadResult;
+
+/// A device whose get answers with the report it was set last, or with what the test says.
+class EchoFunction final : public BusFunction {
+  public:
+    FeatureAnswer setFeature(std::span<const std::uint8_t> report) override {
+        held.assign(report.begin(), report.end());
+        return {accepts};
+    }
+    FeatureAnswer getFeature(std::uint8_t reportId, std::size_t length) override {
+        asked = {reportId, length};
+        return {accepts, held};
+    }
+
+    std::vector<std::uint8_t> held;
+    std::pair<std::uint8_t, std::size_t> asked;
+    bool accepts = true;
+};
+
+/// A bus whose main loop runs on a thread of its own, as the launcher is a process of its own.
+class HidTest : public testing::Test {
+  protected:
+    ~HidTest() override {
+        onBus([&] { plugs.clear(), bus.reset(); });
+        g_main_loop_quit(m_loop.get());
+        m_thread.join();
+    }
+
+    void onBus(std::function<void()> work) {
+        std::packaged_task<void()> task(std::move(work));
+        g_idle_add(
+            [](void* data) -> gboolean {
+                (*static_cast<std::packaged_task<void()>*>(data))();
+                return G_SOURCE_REMOVE;
+            },
+            &task);
+        task.get_future().wait();
+    }
+
+    void plug(const BusInterface& interface) {
+        onBus([&] { plugs.push_back(bus->plug(interface, function)); });
+        ASSERT_NE(plugs.back(), nullptr);
+    }
+
+    void plugKeyboard() {
+        for (const KeyboardInterface& each : VirtualKeyboard::interfaces()) {
+            plug({"Keyboard", VirtualKeyboard::vendor, VirtualKeyboard::product, 2,
+                  static_cast<unsigned>(plugs.size()), each.descriptor});
+        }
+    }
+
+    void unplugAll() {
+        onBus([&] { plugs.clear(); });
+    }
+
+    void sendInput(std::size_t interface, const std::vector<std::uint8_t>& report) {
+        onBus([&] { plugs.at(interface)->sendInput(report); });
+    }
+
+    std::string pathOf(std::uint16_t usagePage) {
+        for (const HidInterface& each : hid->enumerate())
+            if (each.usagePage == usagePage) return each.path;
+        return {};
+    }
+
+    static std::size_t openDescriptors() {
+        using Iterator = std::filesystem::directory_iterator;
+        return static_cast<std::size_t>(std::distance(Iterator("/proc/self/fd"), Iterator()));
+    }
+
+    EchoFunction function;
+    std::unique_ptr<Bus> bus = makeMockBus();
+    std::vector<std::unique_ptr<BusPlug>> plugs;
+    HandLoop loop;
+    std::unique_ptr<Hid> hid = makeSystemHid(loop);
+
+  private:
+    std::unique_ptr<GMainLoop, void (*)(GMainLoop*)> m_loop{g_main_loop_new(nullptr, FALSE),
+                                                            g_main_loop_unref};
+    std::thread m_thread{[this] { g_main_loop_run(m_loop.get()); }};
+};
+
+/// Two collections with report ids: 2 on page 000A with 3 bytes, 3 on page 000B with 1.
+const std::vector<std::uint8_t> twoCollections{0x05, 0x0A, 0x09, 0x01, 0xA1, 0x01, 0x85, 0x02, 0x75, 0x08,
+                                               0x95, 0x03, 0x81, 0x02, 0xC0, 0x05, 0x0B, 0x09, 0x01, 0xA1,
+                                               0x01, 0x85, 0x03, 0x95, 0x01, 0x81, 0x02, 0xC0};
+
+TEST_F(HidTest, EnumeratesEveryInterfaceByItsPlaceOnTheBus) {
+    EXPECT_THAT(hid->enumerate(), IsEmpty());
+    plug({"Undescribed", 0x1209, 1, 7, 0, {}});
+    plug({"Several", 0x1209, 2, 3, 0, twoCollections});
+    plugKeyboard();
+
+    std::vector<std::tuple<int, int, std::size_t>> found;
+    for (const HidInterface& each : hid->enumerate())
+        found.emplace_back(each.product, each.usagePage, each.inputReportLength);
+    EXPECT_THAT(found, ElementsAre(std::tuple(0x1406, 0x01, 9u), std::tuple(0x1406, 0x0A, 8u),
+                                   std::tuple(0x1406, 0x0B, 0u), std::tuple(2, 0x0A, 4u),
+                                   std::tuple(2, 0x0B, 2u), std::tuple(1, 0, 0u)));
+}
+
+TEST_F(HidTest, CarriesFeatureReportsAndLeavesTheBufferAloneAfterAFailure) {
+    plugKeyboard();
+    EXPECT_EQ(hid->open("/dev/hidraw99"), nullptr);
+    const auto device = hid->open(pathOf(0x0B));
+    ASSERT_NE(device, nullptr);
+
+    // Bytes that a terminal would take for commands go through as they are.
+    std::vector<std::uint8_t> report{7, 8, 0x00, 0x03, 0x0A, 0x0D, 0x11, 0xFF};
+    EXPECT_TRUE(device->setFeature(report));
+    EXPECT_EQ(function.held, report);
+    std::vector<std::uint8_t> answer(8, 0x55);
+    answer[0] = 7;
+    EXPECT_TRUE(device->getFeature(answer));
+    EXPECT_EQ(answer, report);
+    EXPECT_EQ(function.asked, std::pair(std::uint8_t{7}, std::size_t{8}));
+
+    const std::vector<std::uint8_t> untouched{7, 1, 2, 3, 4, 5, 6, 7};
+    answer = untouched;
+    function.held.resize(5);
+    EXPECT_FALSE(device->getFeature(answer)) << "a short answer is none";
+    EXPECT_EQ(answer, untouched);
+    function.accepts = false;
+    EXPECT_FALSE(device->getFeature(answer));
+    EXPECT_FALSE(device->setFeature(report));
+    EXPECT_EQ(answer, untouched);
+
+    function.accepts = true;
+    unplugAll();
+    EXPECT_FALSE(device->setFeature(report));
+    EXPECT_FALSE(device->getFeature(answer));
+}
+
+TEST_F(HidTest, DeliversInputReportsOneByOneWithTheIdInFront) {
+    plugKeyboard();
+    const auto device = hid->open(pathOf(0x0A));
+    ASSERT_NE(device, nullptr);
+    sendInput(VirtualKeyboard::eventInterface, {0x05, 0x02, 0, 0, 0, 0, 0});
+    sendInput(VirtualKeyboard::eventInterface, {0x0A, 0x0D, 3, 4});
+
+    std::vector<std::uint8_t> report(8, 0xFF);
+    EXPECT_EQ(device->read(report), ReadResult::Report);
+    EXPECT_THAT(report, ElementsAre(0, 5, 2, 0, 0, 0, 0, 0));
+    report.assign(8, 0xFF);
+    EXPECT_EQ(device->read(report), ReadResult::Report);
+    EXPECT_THAT(report, ElementsAre(0, 0x0A, 0x0D, 3, 4, 0xFF, 0xFF, 0xFF))
+        << "what is not sent stays as it was";
+
+    sendInput(VirtualKeyboard::eventInterface, {1, 2, 3, 4, 5, 6, 7});
+    std::vector<std::uint8_t> small(3, 0xFF);
+    EXPECT_EQ(device->read(small), ReadResult::Report);
+    EXPECT_THAT(small, ElementsAre(0, 1, 2));
+}
+
+TEST_F(HidTest, DeliversToEachCollectionItsOwnReports) {
+    plug({"Several", 0x1209, 2, 3, 0, twoCollections});
+    const auto device = hid->open(pathOf(0x0B));
+    ASSERT_NE(device, nullptr);
+    sendInput(0, {2, 7, 8, 9});
+    sendInput(0, {3, 4});
+    std::vector<std::uint8_t> report(4, 0xFF);
+    EXPECT_EQ(device->read(report), ReadResult::Report);
+    EXPECT_THAT(report, ElementsAre(3, 4, 0xFF, 0xFF));
+    EXPECT_EQ(hid->open(pathOf(0x0B) + "7"), nullptr) << "there is no such collection";
+}
+
+TEST_F(HidTest, AStopEndsThePresentAndEveryLaterRead) {
+    plugKeyboard();
+    const auto device = hid->open(pathOf(0x0A));
+    ASSERT_NE(device, nullptr);
+    std::vector<std::uint8_t> report(8);
+    auto waiting = std::async(std::launch::async, [&] { return device->read(report); });
+    EXPECT_EQ(waiting.wait_for(Milliseconds(20)), std::future_status::timeout);
+    device->stop();
+    EXPECT_EQ(waiting.get(), ReadResult::Stopped);
+    sendInput(VirtualKeyboard::eventInterface, {0x05, 0x02});
+    EXPECT_EQ(device->read(report), ReadResult::Stopped);
+    device->stop();
+    EXPECT_EQ(device->read(report), ReadResult::Stopped);
+}
+
+TEST_F(HidTest, AnUnplugEndsTheReadAndFailsEveryLaterOne) {
+    plugKeyboard();
+    const auto device = hid->open(pathOf(0x0A));
+    ASSERT_NE(device, nullptr);
+    std::vector<std::uint8_t> report(8);
+    auto waiting = std::async(std::launch::async, [&] { return device->read(report); });
+    EXPECT_EQ(waiting.wait_for(Milliseconds(20)), std::future_status::timeout);
+    unplugAll();
+    EXPECT_EQ(waiting.get(), ReadResult::Failed);
+    EXPECT_EQ(device->read(report), ReadResult::Failed);
+}
+
+TEST_F(HidTest, TellsOfThePlugsOfAWholeKeyboardAtOnce) {
+    std::vector<HidChange> told;
+    hid->onChange([&](HidChange change) { told.push_back(change); });
+    const auto settle = [&] {
+        loop.serveUntilQuiet();
+        loop.advance(Milliseconds(249));
+        EXPECT_THAT(told, IsEmpty());
+        loop.advance(Milliseconds(1));
+        return std::exchange(told, {});
+    };
+    plugKeyboard();
+    EXPECT_THAT(settle(), ElementsAre(HidChange::Arrival));
+    unplugAll();
+    EXPECT_THAT(settle(), ElementsAre(HidChange::Removal));
+    plugKeyboard();
+    unplugAll();
+    EXPECT_THAT(settle(), ElementsAre(HidChange::Removal, HidChange::Arrival));
+}
+
+TEST_F(HidTest, LeaksNothingOverTwoHundredPlugCycles) {
+    std::vector<HidChange> told;
+    hid->onChange([&](HidChange change) { told.push_back(change); });
+    std::vector<std::uint8_t> report(8);
+    std::size_t descriptors = 0;
+    for (int cycle = 0; cycle < 200; ++cycle) {
+        plug({"Several", 0x1209, 2, 3, 0, twoCollections});
+        const auto device = hid->open(pathOf(0x0A));
+        ASSERT_NE(device, nullptr) << cycle;
+        ASSERT_TRUE(device->setFeature(report));
+        unplugAll();
+        ASSERT_EQ(device->read(report), ReadResult::Failed);
+        loop.serveUntilQuiet(Milliseconds(0));
+        if (cycle == 1) descriptors = openDescriptors();
+    }
+    EXPECT_LE(openDescriptors(), descriptors + 3);
+    loop.advance(Milliseconds(250));
+    EXPECT_THAT(told, ElementsAre(HidChange::Removal, HidChange::Arrival));
+}
+
+} // namespace
+} // namespace tarnix
+
+int main(int argc, char** argv) {
+    tarnix::preloadMockSystem(argv);
+    testing::InitGoogleMock(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+#include "platform/linux/launch.h"
+#include "platform/shell.h"
+
+namespace tarnix {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A session of its own: a runtime folder, and a temporary folder for the case that there is none.
+class InstanceLockTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::string pattern = testing::TempDir() + "instance_lock_test.XXXXXX";
+        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+        folder = pattern;
+        fs::create_directory(folder / "run");
+        fs::permissions(folder / "run", fs::perms::owner_all);
+        ::setenv("XDG_RUNTIME_DIR", (folder / "run").c_str(), 1);
+        ::setenv("TMPDIR", folder.c_str(), 1);
+    }
+    void TearDown() override {
+        ::unsetenv("XDG_RUNTIME_DIR");
+        ::unsetenv("TMPDIR");
+        fs::remove_all(folder);
+    }
+
+    /// Whether another process gets the lock.
+    static bool otherProcessGetsLock(const std::string& name) {
+        const pid_t child = ::fork();
+        if (child == 0) ::_exit(acquireInstanceLock(name) ? 1 : 0);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        return WEXITSTATUS(status) == 1;
+    }
+
+    fs::path folder;
+};
+
+TEST_F(InstanceLockTest, IsHeldByOneProcessUntilItLetsGo) {
+    auto lock = acquireInstanceLock("Some Program");
+    ASSERT_NE(lock, nullptr);
+    EXPECT_FALSE(otherProcessGetsLock("Some Program"));
+    EXPECT_EQ(acquireInstanceLock("Some Program"), nullptr);
+    EXPECT_TRUE(otherProcessGetsLock("Another Program"));
+    EXPECT_TRUE(otherProcessGetsLock("../../Some Program")) << "a name never leads out of the folder";
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "run"), fs::directory_iterator()), 3);
+    lock.reset();
+    EXPECT_TRUE(otherProcessGetsLock("Some Program"));
+}
+
+TEST_F(InstanceLockTest, IsReleasedWhenItsHolderIsKilled) {
+    int ready[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    const pid_t holder = ::fork();
+    if (holder == 0) {
+        const auto lock = acquireInstanceLock("Some Program");
+        const char got = lock ? 'y' : 'n';
+        if (::write(ready[1], &got, 1) == 1) ::pause();
+        ::_exit(0);
+    }
+    char got = 0;
+    ASSERT_EQ(::read(ready[0], &got, 1), 1);
+    EXPECT_EQ(got, 'y');
+    EXPECT_FALSE(otherProcessGetsLock("Some Program"));
+    ::kill(holder, SIGKILL);
+    ::waitpid(holder, nullptr, 0);
+    EXPECT_TRUE(otherProcessGetsLock("Some Program"));
+}
+
+TEST_F(InstanceLockTest, IsNotHandedDownToALaunchedProgram) {
+    auto lock = acquireInstanceLock("Some Program");
+    const fs::path fifo = folder / "fifo";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    std::ofstream(folder / "sleeper") << "#!/bin/sh\nread line <'" << fifo.string() << "'\n";
+    fs::permissions(folder / "sleeper", fs::perms::owner_all);
+    launchTarget(folder / "sleeper", [](const std::string&) {});
+    lock.reset();
+    EXPECT_TRUE(otherProcessGetsLock("Some Program"));
+    std::ofstream(fifo) << "go on\n";
+}
+
+TEST_F(InstanceLockTest, TakesAFolderOfTheUsersOwnWhereTheSessionHasNone) {
+    ::unsetenv("XDG_RUNTIME_DIR");
+    const auto lock = acquireInstanceLock("Some Program");
+    ASSERT_NE(lock, nullptr);
+    EXPECT_FALSE(otherProcessGetsLock("Some Program"));
+    const fs::path own = folder / ("tarnix-keyboard-" + std::to_string(::geteuid()));
+    EXPECT_EQ(fs::status(own).permissions(), fs::perms::owner_all);
+
+    // Where somebody else could have put it, the folder is not used: no lock is said to be held, and no link
+    // followed.
+    fs::permissions(own, fs::perms::all);
+    EXPECT_TRUE(otherProcessGetsLock("Some Program"));
+    fs::remove_all(own);
+    fs::create_directory(folder / "trap");
+    fs::create_directory_symlink(folder / "trap", own);
+    EXPECT_TRUE(otherProcessGetsLock("Some Program"));
+    EXPECT_TRUE(fs::is_empty(folder / "trap"));
+}
+
+} // namespace
+} // namespace tarnix

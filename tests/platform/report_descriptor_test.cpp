@@ -1,0 +1,89 @@
+#include "platform/linux/report_descriptor.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnix {
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+Bytes operator+(Bytes left, const Bytes& right) {
+    left.insert(left.end(), right.begin(), right.end());
+    return left;
+}
+
+/// Count fields of a size in bits, as an input item.
+Bytes input(std::uint8_t size, std::uint8_t count) {
+    return {0x75, size, 0x95, count, 0x81, 0x02};
+}
+
+Bytes collection(std::uint8_t usagePage, const Bytes& content) {
+    return Bytes{0x05, usagePage, 0x09, 0x01, 0xA1, 0x01} + content + Bytes{0xC0};
+}
+
+TEST(ReportDescriptor, GivesPageLengthAndIdsOfEachTopLevelCollection) {
+    const Bytes inner = Bytes{0xA1, 0x00} + input(8, 7) + Bytes{0xC0};
+    const ReportDescriptor plain = parseReportDescriptor(collection(0x0A, inner + Bytes{0x05, 0x0B}));
+    ASSERT_EQ(plain.collections.size(), 1u);
+    EXPECT_FALSE(plain.usesReportIds);
+    EXPECT_EQ(plain.collections[0].usagePage, 0x0A);
+    EXPECT_EQ(plain.collections[0].inputReportLength, 8u);
+    EXPECT_EQ(plain.collections[0].inputReports, std::bitset<256>(1));
+
+    const Bytes several =
+        collection(0x0A, Bytes{0x85, 0x02} + input(1, 3) + input(1, 6) + Bytes{0x85, 0x03} + input(8, 4)) +
+        collection(0x0B, Bytes{0x85, 0x05, 0x75, 0x08, 0x95, 0xBF, 0xB1, 0x02});
+    const ReportDescriptor numbered = parseReportDescriptor(several);
+    ASSERT_EQ(numbered.collections.size(), 2u);
+    EXPECT_TRUE(numbered.usesReportIds);
+    EXPECT_EQ(numbered.collections[0].inputReportLength, 5u);
+    EXPECT_TRUE(numbered.collections[0].inputReports.test(2) && numbered.collections[0].inputReports.test(3));
+    EXPECT_EQ(numbered.collections[1].usagePage, 0x0B);
+    EXPECT_EQ(numbered.collections[1].inputReportLength, 0u) << "feature reports are no input";
+    EXPECT_TRUE(numbered.collections[1].inputReports.none());
+}
+
+TEST(ReportDescriptor, FollowsExtendedUsagesLongItemsAndSavedGlobals) {
+    // The page of the extended usage holds, not the global one; the long item's content is no item.
+    const Bytes extended =
+        Bytes{0x05, 0x01, 0x0B, 0x02, 0x00, 0x0A, 0xFF, 0xFE, 0x02, 0x10, 0xA1, 0x01, 0xA1, 0x01} +
+        input(8, 2) +
+        // Pushed and popped: three more bytes in between, then two again.
+        Bytes{0xA4, 0x95, 0x03, 0x81, 0x02, 0xB4, 0x81, 0x02, 0xC0};
+    const ReportDescriptor result = parseReportDescriptor(extended);
+    ASSERT_EQ(result.collections.size(), 1u);
+    EXPECT_EQ(result.collections[0].usagePage, 0xFF0A);
+    EXPECT_EQ(result.collections[0].inputReportLength, 2u + 3u + 2u + 1u);
+}
+
+TEST(ReportDescriptor, KeepsWhatAnyPieceOfADescriptorSaysAndReadsNoFurther) {
+    const Bytes whole = collection(0x0A, Bytes{0x85, 0x02} + input(8, 7) + Bytes{0xA4, 0xB4}) +
+                        collection(0x0B, {0x27, 0xFF, 0xFF, 0xFF, 0x7F});
+    for (std::size_t length = 0; length <= whole.size(); ++length) {
+        // A copy of the exact size, so that a memory checker sees a read behind it.
+        const Bytes piece(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
+        const ReportDescriptor result = parseReportDescriptor(piece);
+        EXPECT_EQ(result.collections.size(), length < 6 ? 0u : length < 23 ? 1u : 2u) << length;
+        if (length >= 14) {
+            EXPECT_EQ(result.collections.at(0).inputReportLength, 8u) << length;
+        }
+    }
+    EXPECT_TRUE(parseReportDescriptor(Bytes{0xFE, 0x05, 0x10, 0xA1, 0x01}).collections.empty());
+}
+
+TEST(ReportDescriptor, StaysInBoundsWhateverTheDescriptorClaims) {
+    const Bytes huge{0x77, 0xFF, 0xFF, 0xFF, 0xFF, 0x97, 0xFF, 0xFF, 0xFF, 0xFF, 0x81, 0x02, 0x81, 0x02};
+    EXPECT_EQ(parseReportDescriptor(collection(0x0A, huge)).collections.at(0).inputReportLength,
+              maxReportLength);
+
+    const Bytes unopened = Bytes{0xC0, 0xC0, 0xB4} + input(8, 3) + collection(0x0A, input(8, 1));
+    const ReportDescriptor result = parseReportDescriptor(unopened);
+    ASSERT_EQ(result.collections.size(), 1u);
+    EXPECT_EQ(result.collections[0].inputReportLength, 2u) << "items outside any collection belong to none";
+
+    EXPECT_EQ(parseReportDescriptor(Bytes(4096, 0xA1)).collections.size(), 1u);
+    EXPECT_TRUE(parseReportDescriptor(Bytes(4096, 0xA4)).collections.empty());
+}
+
+} // namespace
+} // namespace tarnix

@@ -7,8 +7,6 @@
 namespace tarnix {
 namespace {
 
-using testing::ElementsAre;
-
 const std::string folder = "/home/u/kbd/";
 const std::string path = "/home/u/kbd/config\\config.ini";
 const std::string defaults =
@@ -17,55 +15,39 @@ const std::string defaults =
     "ProfileSlot2URL=/home/u/kbd/config\\default2.psf\nProfileSlot3URL=/home/u/kbd/config\\default3.psf\n"
     "ProfileSlot4URL=/home/u/kbd/config\\default4.psf\n";
 
-TEST(ConfigurationFile, AcceptsPairsByPlaceAndWritesThemBackAsRead) {
-    for (const std::string& text :
-         {defaults,
-          std::string("[Setting]\nProfileSlot0URL=/a\nCurrentProfile=a=b\nx=1\ny=2\nz=3\n  w = 4 \n")}) {
-        ConfigPairs pairs;
-        EXPECT_FALSE(parseConfiguration(text, pairs));
-        EXPECT_EQ(formatConfiguration(pairs), text);
-    }
+TEST(ConfigurationFile, PairsAreTakenByPlaceAndMissingOnesStay) {
     ProfileStore store;
-    EXPECT_FALSE(
-        parseConfiguration("[Setting]\r\nProfileSlot0URL=/a\r\nCurrentProfile=a=b", store.ConfigTable));
+    const std::string swapped =
+        "[Setting]\nProfileSlot0URL=/a\nCurrentProfile=a=b\nx=1\ny=2\nz=3\n  w = 4 \n";
+    EXPECT_FALSE(parseConfiguration(swapped, store.ConfigTable));
+    EXPECT_EQ(formatConfiguration(store.ConfigTable), swapped);
     EXPECT_EQ(store.currentProfile(), 0);
-    EXPECT_EQ(store.ConfigTable[1], (SettingPair{"CurrentProfile", "a=b"}));
-}
+    EXPECT_EQ(store.slotPath(0), "a=b");
 
-TEST(ConfigurationFile, FewerLinesLeaveTheOtherPairsAlone) {
-    ConfigPairs pairs;
-    pairs[0].Value = "2";
-    EXPECT_FALSE(parseConfiguration("[Setting]", pairs));
-    EXPECT_EQ(pairs[0].Value, "2");
-    EXPECT_FALSE(parseConfiguration("[Setting]\nCurrentProfile=1\n", pairs));
-    EXPECT_EQ(pairs[0].Value, "1");
-    EXPECT_EQ(pairs[1], SettingPair{});
+    EXPECT_FALSE(
+        parseConfiguration("[Setting]\r\nCurrentProfile=2\r\nProfileSlot0URL=/b", store.ConfigTable));
+    EXPECT_EQ(store.currentProfile(), 2);
+    EXPECT_EQ(store.slotPath(0) + store.slotPath(1), "/b1");
+    EXPECT_FALSE(parseConfiguration("[Setting]", store.ConfigTable));
+    EXPECT_EQ(store.currentProfile(), 2);
 }
 
 TEST(ConfigurationFile, RefusalsNameTheLine) {
-    struct Case {
-        std::string text;
-        std::size_t line;
-    };
-    for (const Case& c : {Case{"", 1},
-                          {"[setting]\n", 1},
-                          {"[Setting] \n", 1},
-                          {"\xEF\xBB\xBF[Setting]\n", 1},
-                          {"[Setting]\nCurrentProfile=\n", 2},
-                          {"[Setting]\n\n", 2},
-                          {"[Setting]\n=0\n", 2},
-                          {"[Setting]\nA=1\nB\n", 3},
-                          {defaults + "\n", 8},
-                          {defaults + "More=1\n", 8},
-                          {std::string("\0\xFF\n\r\0=", 6), 1}}) {
-        ConfigPairs pairs;
-        const auto error = parseConfiguration(c.text, pairs);
-        ASSERT_TRUE(error) << c.text;
-        EXPECT_EQ(error->line, c.line) << c.text;
+    const std::map<std::size_t, std::vector<std::string>> refused{
+        {1, {"", "[setting]\n", "[Setting] \n", "\xEF\xBB\xBF[Setting]\n", std::string("\0\xFF\n\r\0=", 6)}},
+        {2, {"[Setting]\nCurrentProfile=\n", "[Setting]\n\n", "[Setting]\n=0\n"}},
+        {3, {"[Setting]\nA=1\nB\n"}},
+        {8, {defaults + "\n", defaults + "More=1\n"}}};
+    for (const auto& [line, texts] : refused) {
+        for (const auto& text : texts) {
+            ConfigPairs pairs;
+            const auto error = parseConfiguration(text, pairs);
+            EXPECT_EQ(error ? error->line : 0, line) << text;
+        }
     }
 }
 
-TEST(ConfigurationFile, MissingFileIsWrittenAndRefusedOneIsSetAsideFirst) {
+TEST(ConfigurationFile, RefusedFileIsSetAsideBeforeTheDefaultsAreWritten) {
     MemoryFiles files;
     ProfileStore store;
     EXPECT_FALSE(LoadConfig(store, files, folder));
@@ -73,36 +55,31 @@ TEST(ConfigurationFile, MissingFileIsWrittenAndRefusedOneIsSetAsideFirst) {
     EXPECT_TRUE(LoadConfig(store, files, folder));
 
     files.log.clear();
-    files.contents[path] = "[Setting]\nCurrentProfile=4\nbroken\n";
+    const std::string broken = "[Setting]\nCurrentProfile=4\nbroken\n";
+    files.contents[path] = broken;
     EXPECT_FALSE(LoadConfig(store, files, folder));
     EXPECT_EQ(store.currentProfile(), 0);
-    EXPECT_EQ(files.contents[path], defaults);
-    EXPECT_EQ(files.contents[path + ".bak"], "[Setting]\nCurrentProfile=4\nbroken\n");
-    EXPECT_THAT(files.log, ElementsAre("read " + path, "set aside " + path, "replace " + path));
-}
+    EXPECT_EQ(files.contents,
+              (std::map<std::string, std::string>{{path, defaults}, {path + ".bak", broken}}));
+    EXPECT_THAT(files.log, testing::ElementsAre("read " + path, "set aside " + path, "replace " + path));
 
-TEST(ConfigurationFile, RefusedFileThatCannotBeSetAsideIsNotOverwritten) {
-    MemoryFiles files;
     files.failSetAside = true;
-    files.contents[path] = "broken";
-    ProfileStore store;
+    files.contents[path] = broken;
     EXPECT_FALSE(LoadConfig(store, files, folder));
-    EXPECT_EQ(files.contents[path], "broken");
-    EXPECT_EQ(store.slotPath(4), folder + "config\\default4.psf");
+    EXPECT_EQ(files.contents[path], broken) << "nothing is lost without a copy";
+    EXPECT_EQ(formatConfiguration(store.ConfigTable), defaults);
 }
 
 TEST(ConfigurationFile, DisplayedProfileBecomesCurrentEvenWhenTheDiskIsFull) {
     MemoryFiles files;
     ProfileStore store;
-    ResetConfig(store, folder);
-    DisplayedProfile = 2;
-    EXPECT_TRUE(SaveCurrentProfile(store, files, folder));
-    EXPECT_THAT(files.contents[path], testing::HasSubstr("\nCurrentProfile=2\n"));
-    files.failAllWrites = true;
-    DisplayedProfile = 1;
-    EXPECT_FALSE(SaveCurrentProfile(store, files, folder));
-    EXPECT_EQ(store.currentProfile(), 1);
-    EXPECT_THAT(files.contents[path], testing::HasSubstr("\nCurrentProfile=2\n"));
+    files.failWriteNumber = 2;
+    for (const int profile : {2, 1}) {
+        DisplayedProfile = profile;
+        EXPECT_EQ(SaveCurrentProfile(store, files, folder), profile == 2);
+        EXPECT_EQ(store.currentProfile(), profile);
+        EXPECT_THAT(files.contents[path], testing::HasSubstr("=2\n"));
+    }
     DisplayedProfile = 0;
 }
 

@@ -8,6 +8,7 @@ namespace tarnix {
 namespace {
 
 constexpr Color outsideColor = rgb(255, 255, 0);
+constexpr Color colorWithoutBitmap = 0xEFE2BA;
 constexpr int widestFade = 100;
 
 Rect common(const Rect& a, const Rect& b) {
@@ -57,10 +58,15 @@ std::vector<Rect> outlineOf(const Image& bitmap) {
 void Background::load(const Image& bitmap, Size window) {
     m_size = bitmap.size();
     m_fade = fadeWidthFor(window, m_size);
-    m_color = averageColor(bitmap);
-    m_picture = &bitmap;
+    m_color.reset();
+    m_bitmap = m_picture = &bitmap;
     m_surface.reset();
     if (m_fade > 0) prepareFades(bitmap);
+}
+
+Color Background::color() const {
+    if (!m_color) m_color = m_bitmap ? averageColor(*m_bitmap) : colorWithoutBitmap;
+    return *m_color;
 }
 
 void Background::prepareFades(const Image& bitmap) {
@@ -75,7 +81,7 @@ void Background::prepareFades(const Image& bitmap) {
     const int right = width - f;
     const int bottom = height - f;
 
-    canvas.fill({0, 0, width, height}, m_color);
+    canvas.fill({0, 0, width, height}, color());
     copy({0, 0, right, bottom}, 255);
     for (int k = 0; k < f; ++k) {
         copy(Rect::at(right + k, 0, 1, bottom), 255 - k * (255.0 / f));
@@ -88,8 +94,8 @@ void Background::prepareFades(const Image& bitmap) {
 }
 
 void Background::draw(Canvas& canvas, const Rect& dirty) const {
-    if (!m_picture) return canvas.fill(dirty, m_color);
-    if (dirty.right > m_size.width || dirty.bottom > m_size.height) canvas.fill(dirty, m_color);
+    if (!m_picture) return canvas.fill(dirty, color());
+    if (dirty.right > m_size.width || dirty.bottom > m_size.height) canvas.fill(dirty, color());
     const Rect covered = common(dirty, {0, 0, m_size.width, m_size.height});
     if (!covered.empty()) canvas.draw(*m_picture, covered, covered);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/canvas.h"
@@ -17,7 +18,9 @@ class Background {
     void load(const Image& bitmap, Size window);
 
     Size size() const { return m_size; }
-    Color color() const { return m_color; }
+    /// The bitmap's average colour. It is worked out when it is first needed, which a bitmap that covers the
+    /// window does not.
+    Color color() const;
     int fadeWidth() const { return m_fade; }
     /// Paints the part of the window within `dirty`.
     void draw(Canvas& canvas, const Rect& dirty) const;
@@ -26,8 +29,9 @@ class Background {
     void prepareFades(const Image& bitmap);
 
     Size m_size{100, 100};
-    Color m_color = 0xEFE2BA;
+    mutable std::optional<Color> m_color; ///< none until it is asked for
     int m_fade = 0;
+    const Image* m_bitmap = nullptr;
     const Image* m_picture = nullptr;   ///< what is copied: the bitmap, or the surface's picture
     std::unique_ptr<Surface> m_surface; ///< only with fades
 };

@@ -18,11 +18,6 @@ constexpr unsigned releaseIcon = 191;
 constexpr unsigned pressIcon = 192;
 constexpr unsigned delayIcon = 193;
 
-std::string stepText(const MacroAction& action) {
-    if (action.isDelay()) return std::to_string(action.milliseconds()) + "ms";
-    return std::string(VirtualKeyName(action.virtualKey())) + (action.isRelease() ? " Release" : " Press");
-}
-
 } // namespace
 
 CRowList::CRowList(Window& owner, unsigned id, const Rect& rect, std::string text, bool visible,
@@ -146,12 +141,19 @@ int CImageShowList::rowCount() const {
     return static_cast<int>(steps().size());
 }
 
+std::string CImageShowList::text(int step) const {
+    if (step < 0 || step >= rowCount()) return {};
+    const MacroAction& action = steps()[static_cast<std::size_t>(step)];
+    if (action.isDelay()) return std::to_string(action.milliseconds()) + "ms";
+    return std::string(VirtualKeyName(action.virtualKey())) + (action.isRelease() ? " Release" : " Press");
+}
+
 void CImageShowList::drawRow(Canvas& canvas, int index, const Rect& row) {
     const MacroAction& action = steps()[static_cast<std::size_t>(index)];
     const ImageStrip& icon = action.isDelay() ? m_delay : action.isRelease() ? m_release : m_press;
     const Size size = m_release.frameSize();
     icon.draw(canvas, 0, Rect::at(row.left, row.top + 3, size.width, size.height));
-    canvas.drawText(stepText(action), {row.left + 15, row.top, row.right, row.bottom},
+    canvas.drawText(text(index), {row.left + 15, row.top, row.right, row.bottom},
                     colored(controlFont, white));
 }
 

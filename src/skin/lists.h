@@ -51,6 +51,8 @@ class CEditShowList : public CRowList {
     /// exist and nothing opens.
     int BeginNewName();
     bool isEditing() const { return m_editor != nullptr; }
+    /// The open field; none without one.
+    EditField* editor() const { return m_editor.get(); }
     /// What stands in the field; empty without one.
     std::string editorText() const;
     /// Closes the field without taking its text.
@@ -87,6 +89,8 @@ class CImageShowList : public CRowList {
     int shownSet() const { return m_nSet; }
     int shownMacro() const { return m_nMacro; }
     int rowCount() const override;
+    /// What a step reads as; empty where there is none.
+    std::string text(int step) const;
 
   protected:
     void drawRow(Canvas& canvas, int index, const Rect& row) override;

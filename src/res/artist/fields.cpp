@@ -38,8 +38,8 @@ void paintCheckBox(QPainter& p, const QRectF& area, int index) {
     }
     const QColor edge = state.frame == Frame::Rest ? sage : springLight;
     QColor fill = state.checked ? spring : abyss;
-    if (state.frame == Frame::Hover) fill = state.checked ? springLight : steel;
-    if (state.frame == Frame::Pressed) fill = state.checked ? springDeep : mossDeep;
+    if (state.frame == Frame::Hover) fill = state.checked ? springLight : mossDark;
+    if (state.frame == Frame::Pressed) fill = state.checked ? springDeep : moss;
     plate(p, box, radius, fill, edge);
     if (state.checked) tick(p, box, area.width() / 7.5, ink);
 }
@@ -49,7 +49,7 @@ void paintRecordSwitch(QPainter& p, const QRectF& area, int index) {
     using namespace palette;
     const CheckState state = checkState(index);
     const QRectF body = area.adjusted(1, 1, -1, -1);
-    const QColor rests[] = {slate, steel, abyss};
+    const QColor rests[] = {slate, mossDeep, mossDark};
     const QColor runs[] = {spring, springLight, springDeep};
     const int frame = static_cast<int>(state.frame);
     plate(p, body, 7, state.checked ? runs[frame] : rests[frame],
@@ -75,7 +75,7 @@ void paintRadio(QPainter& p, const QRectF& area, int frame) {
     using namespace palette;
     const QRectF ring = area.adjusted(1, 1, -1, -1);
     p.setPen(QPen(Frame(frame) == Frame::Rest ? sage : springLight, 1.5));
-    p.setBrush(Frame(frame) == Frame::Hover ? steel : abyss);
+    p.setBrush(Frame(frame) == Frame::Hover ? mossDark : abyss);
     p.drawEllipse(ring);
     if (Frame(frame) == Frame::Pressed) {
         p.setPen(Qt::NoPen);

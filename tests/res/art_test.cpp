@@ -1,0 +1,215 @@
+// The pictures as the program gets them: all there, in the sizes that the layout tables need, cut where the
+// skin cuts them, and readable under the texts that the program sets on them.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <set>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "macro_manager/manager_layout.h"
+#include "platform/builtin_resources.h"
+#include "platform/resources.h"
+#include "res/resource_ids.h"
+#include "ui/dialog_layouts.h"
+#include "ui/main_window_layout.h"
+
+namespace tarnix {
+namespace {
+
+constexpr Color yellow = rgb(255, 255, 0);
+
+/// A dialog's controls and the background that they stand on.
+struct Face {
+    unsigned background;
+    Size size;
+    std::span<const ControlRow> controls;
+};
+
+const std::vector<Face>& faces() {
+    static const std::vector<Face> all{
+        {dialog::notice::background, dialog::wideSize, dialog::notice::controls},
+        {dialog::reset::profileBackground, dialog::wideSize, dialog::reset::controls},
+        {dialog::reset::factoryBackground, dialog::wideSize, dialog::reset::controls},
+        {dialog::keymap::background, dialog::wideSize, dialog::keymap::controls},
+        {dialog::profile::background, dialog::profile::size, dialog::profile::controls},
+        {dialog::shortcut::background, dialog::shortcut::size, dialog::shortcut::controls},
+        {dialog::launch::background, dialog::launch::size, dialog::launch::controls},
+        {manager::managerBackground, manager::managerSize, manager::managerControls},
+        {manager::addSetBackground, manager::companionSize, manager::setNameControls},
+        {manager::deleteSetBackground, manager::companionSize, manager::setNameControls},
+        {manager::noteBackground, manager::companionSize, manager::noticeControls},
+        {manager::attentionBackground, manager::companionSize, manager::noticeControls},
+        {mainBackground, mainWindowSize, commonControls},
+        {pageBandImage(0), pageBand.size(), keyCaps},
+        {pageBandImage(1), picture::widePageBand, macroPageControls},
+        {pageBandImage(2), picture::widePageBand, gKeyFields},
+        {pageBandImage(3), pageBand.size(), lightingFields},
+    };
+    return all;
+}
+
+std::vector<ControlRow> allControls() {
+    std::vector<ControlRow> rows(areaMarkers.begin(), areaMarkers.end());
+    for (const Face& face : faces())
+        rows.insert(rows.end(), face.controls.begin(), face.controls.end());
+    return rows;
+}
+
+int framesOf(ControlKind kind) {
+    if (kind == ControlKind::Check) return picture::checkFrames;
+    return kind == ControlKind::Combo ? picture::comboFrames : picture::buttonFrames;
+}
+
+const Image& pictureOf(ResourceType type, unsigned id) {
+    const Image* image = resources().find(type, id);
+    if (!image) throw std::out_of_range("picture " + std::to_string(id) + " is missing");
+    return *image;
+}
+
+double luminance(Color color) {
+    const auto linear = [](int value) {
+        const double share = value / 255.0;
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(redOf(color)) + 0.7152 * linear(greenOf(color)) + 0.0722 * linear(blueOf(color));
+}
+
+/// The lowest contrast of a text with what it stands on, as WCAG 2.1 defines it.
+double lowestContrast(Color text, const Image& ground, const Rect& area) {
+    double lowest = 21;
+    for (int y = area.top; y < area.bottom; ++y)
+        for (int x = area.left; x < area.right; ++x) {
+            const auto [dark, light] = std::minmax(luminance(text), luminance(ground.pixel({x, y})));
+            lowest = std::min(lowest, (light + 0.05) / (dark + 0.05));
+        }
+    return lowest;
+}
+
+int differentPixels(const Image& image, Rect a, Rect b) {
+    int different = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            different += image.pixel({a.left + x, a.top + y}) != image.pixel({b.left + x, b.top + y});
+    return different;
+}
+
+TEST(Art, EveryControlAndBackgroundHasItsPictureInTheRightSize) {
+    for (const ControlRow& row : allControls()) {
+        if (row.kind == ControlKind::Region) {
+            const Size size =
+                pictureOf(ResourceType::Bitmap, static_cast<unsigned>(row.region.bitmap)).size();
+            EXPECT_GE(size.width, row.region.frameWidth * 3) << row.region.bitmap;
+            EXPECT_GE(size.height, row.region.frameHeight) << row.region.bitmap;
+        } else if (row.image != 0) {
+            const Size expected{row.rect.width() * framesOf(row.kind), row.rect.height()};
+            EXPECT_EQ(pictureOf(ResourceType::Png, row.image).size(), expected) << row.image;
+        }
+    }
+    for (const Face& face : faces())
+        EXPECT_EQ(pictureOf(ResourceType::Bitmap, face.background).size(), face.size) << face.background;
+    EXPECT_EQ(pictureOf(ResourceType::Bitmap, manager::managerPanel).size(),
+              manager::managerPanelRect.size());
+    EXPECT_EQ(pictureOf(ResourceType::Icon, picture::programIcon).size(), picture::programIconSize);
+    for (unsigned id : {picture::stepPress, picture::stepRelease, picture::stepDelay})
+        EXPECT_EQ(pictureOf(ResourceType::Png, id).size(), picture::stepIconSize);
+}
+
+TEST(Art, FramesOfAButtonDifferSoThatHoverAndPressAreSeen) {
+    for (const ControlRow& row : allControls()) {
+        const bool region = row.kind == ControlKind::Region;
+        if (!region && row.image == 0) continue;
+        const Image& image = region
+                                 ? pictureOf(ResourceType::Bitmap, static_cast<unsigned>(row.region.bitmap))
+                                 : pictureOf(ResourceType::Png, row.image);
+        const Rect first = region ? Rect::at(0, 0, row.region.frameWidth, row.region.frameHeight)
+                                  : Rect::at(0, 0, row.rect.width(), row.rect.height());
+        const int least = first.width() * first.height() / 10;
+        const Rect second = first.moved(first.width(), 0);
+        const Rect third = second.moved(first.width(), 0);
+        EXPECT_GT(differentPixels(image, first, second), least) << row.id << " " << row.image;
+        EXPECT_GT(differentPixels(image, second, third), least) << row.id << " " << row.image;
+        EXPECT_GT(differentPixels(image, first, third), least) << row.id << " " << row.image;
+    }
+}
+
+TEST(Art, YellowStandsBeyondRoundedCornersAloneAndOnlyInOutlines) {
+    const std::set<unsigned> shaped{mainBackground, dialog::shortcut::background, dialog::launch::background};
+    constexpr int corner = 12;
+    for (const Face& face : faces()) {
+        const Image& image = pictureOf(ResourceType::Bitmap, face.background);
+        const auto [width, height] = face.size;
+        int inCorners = 0;
+        int elsewhere = 0;
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x) {
+                if (image.pixel({x, y}) != yellow) continue;
+                const bool atCorner =
+                    (x < corner || x >= width - corner) && (y < corner || y >= height - corner);
+                ++(atCorner ? inCorners : elsewhere);
+            }
+        EXPECT_EQ(elsewhere, 0) << face.background;
+        EXPECT_EQ(inCorners > 0, shaped.contains(face.background)) << face.background;
+        for (Point p : {Point{0, 0}, Point{width - 1, 0}, Point{0, height - 1}, Point{width - 1, height - 1}})
+            EXPECT_EQ(image.pixel(p) == yellow, shaped.contains(face.background)) << face.background;
+    }
+}
+
+TEST(Art, RegionButtonsLeaveOutWhatLooksLikeTheirGround) {
+    for (const Face& face : faces())
+        for (const ControlRow& row : face.controls) {
+            // The profile form copies parts of the notices' strips, which have another key colour there.
+            if (row.kind != ControlKind::Region || face.background == dialog::profile::background) continue;
+            const Image& strip = pictureOf(ResourceType::Bitmap, static_cast<unsigned>(row.region.bitmap));
+            const Color key = strip.pixel({row.region.keyX, row.region.keyY});
+            const Image& ground = pictureOf(ResourceType::Bitmap, face.background);
+            EXPECT_EQ(key, ground.pixel(row.rect.topLeft())) << face.background << " " << row.region.bitmap;
+            const Point middle{row.region.frameWidth * 3 / 2, row.region.frameHeight / 2};
+            EXPECT_NE(key, strip.pixel(middle)) << row.region.bitmap;
+        }
+}
+
+TEST(Art, TextsThatTheProgramSetsAreReadableOnTheirGround) {
+    for (const Face& face : faces())
+        for (const ControlRow& row : face.controls)
+            if (row.kind == ControlKind::Label) {
+                const Image& ground = pictureOf(ResourceType::Bitmap, face.background);
+                EXPECT_GE(lowestContrast(row.color, ground, row.rect), 4.5)
+                    << face.background << " " << row.id;
+            }
+    const ControlRow& field = lightingFields[0];
+    const Image& strip = pictureOf(ResourceType::Png, field.image);
+    for (int frame = 0; frame < picture::comboFrames; ++frame) {
+        const Rect value = Rect::at(frame * field.rect.width() + 4, 1, 135, field.rect.height() - 2);
+        EXPECT_GE(lowestContrast(0x000000, strip, value), 4.5) << frame;
+    }
+}
+
+TEST(Art, OnlyTheFirstFrameIsStoredAsPixelsAndTheWholeStaysSmall) {
+    std::size_t pixels = 0;
+    std::size_t compressed = 0;
+    std::set<std::pair<ResourceType, unsigned>> plain;
+    std::set<std::pair<ResourceType, unsigned>> fine;
+    for (const BuiltinImage& row : builtinImages()) {
+        EXPECT_TRUE((row.scale == 1 ? plain : fine).insert({row.type, row.id}).second) << row.id;
+        if (row.format == BuiltinImage::Format::Png) {
+            compressed += row.size;
+            continue;
+        }
+        pixels += row.size;
+        EXPECT_EQ(row.scale, 1);
+        EXPECT_EQ(row.size, std::size_t{4} * row.width * row.height);
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(row.data) % 4, 0U);
+    }
+    EXPECT_EQ(plain, fine);
+    EXPECT_LE(pixels, std::size_t{6} << 20);
+    EXPECT_LE(compressed, std::size_t{4} << 20);
+}
+
+} // namespace
+} // namespace tarnix

@@ -112,18 +112,18 @@ TEST_F(SystemFilesTest, FullDiskKeepsTheOldFileAndLeavesNothingBehind) {
     put("x", "old");
     ASSERT_EQ(::chmod(folder.c_str(), 0777), 0);
     ASSERT_EQ(::chmod(at("x").c_str(), 0666), 0);
-    const auto fill = [&](std::size_t size) {
-        return makeSystemFiles()->replace(at("x"), std::string(size, 'n'));
+    const auto refused = [&](std::size_t size) {
+        return inOrdinaryProcess([&] {
+            std::signal(SIGXFSZ, SIG_IGN);
+            const rlimit limit{4096, 4096};
+            return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 && !files->replace(at("x"), std::string(size, 'n'));
+        });
     };
-    const bool refused = inOrdinaryProcess([&] {
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{4096, 4096};
-        if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
-        return !fill(5000);
-    });
-    EXPECT_TRUE(refused);
+    EXPECT_TRUE(refused(5000));
     EXPECT_EQ(files->read(at("x")), "old");
     EXPECT_THAT(names(), testing::ElementsAre("x"));
+    EXPECT_FALSE(refused(4096));
+    EXPECT_EQ(files->read(at("x"))->size(), 4096u);
 }
 
 TEST_F(SystemFilesTest, ForbiddenPlacesAreRefusedAndStayAsTheyAre) {
@@ -131,22 +131,21 @@ TEST_F(SystemFilesTest, ForbiddenPlacesAreRefusedAndStayAsTheyAre) {
     put("read-only", "old");
     ASSERT_EQ(::chmod(at("read-only").c_str(), 0444), 0);
     ASSERT_EQ(::chmod(folder.c_str(), 0777), 0);
-    EXPECT_FALSE(inOrdinaryProcess([&] { return makeSystemFiles()->replace(at("read-only"), "new"); }));
-    EXPECT_TRUE(inOrdinaryProcess([&] { return makeSystemFiles()->replace(at("theirs"), "new"); }));
+    EXPECT_FALSE(inOrdinaryProcess([&] { return files->replace(at("read-only"), "new"); }));
+    EXPECT_TRUE(inOrdinaryProcess([&] { return files->replace(at("theirs"), "new"); }));
     ASSERT_EQ(::chmod(folder.c_str(), 0555), 0);
-    EXPECT_FALSE(inOrdinaryProcess([&] { return makeSystemFiles()->replace(at("theirs"), "newer"); }));
-    EXPECT_FALSE(inOrdinaryProcess([&] { return makeSystemFiles()->replace(at("sub/y"), "new"); }));
-    EXPECT_FALSE(inOrdinaryProcess([&] { return makeSystemFiles()->setAside(at("theirs")); }));
+    EXPECT_FALSE(inOrdinaryProcess([&] { return files->replace(at("theirs"), "newer"); }));
+    EXPECT_FALSE(inOrdinaryProcess([&] { return files->replace(at("sub/y"), "new"); }));
+    EXPECT_FALSE(inOrdinaryProcess([&] { return files->setAside(at("theirs")); }));
     ASSERT_EQ(::chmod(folder.c_str(), 0755), 0);
     EXPECT_EQ(files->read(at("read-only")), "old");
     EXPECT_EQ(files->read(at("theirs")), "new");
 
-    EXPECT_FALSE(files->replace(at("x/below"), "new"));
-    EXPECT_FALSE(files->replace(folder, "new"));
+    for (const std::string& path : {at("x/below"), folder.string(), std::string()})
+        EXPECT_FALSE(files->replace(path, "new"));
     ASSERT_EQ(::mkfifo(at("pipe").c_str(), 0666), 0);
     EXPECT_FALSE(files->replace(at("pipe"), "new"));
     EXPECT_FALSE(files->setAside(at("pipe")));
-    EXPECT_FALSE(files->replace("", "new"));
     EXPECT_THAT(names(), testing::UnorderedElementsAre("x", "read-only", "theirs", "pipe"));
 }
 

@@ -1,0 +1,127 @@
+// Plays a scenario against a dialog while it runs modally: the scenario has a thread of its own and reads top
+// down, everything that it does to windows happens on the user-interface thread, keys come from the X server.
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <functional>
+#include <future>
+#include <memory>
+#include <string>
+#include <thread>
+
+#include "platform/main_loop.h"
+#include "skin/dlg_base.h"
+
+namespace tarnix {
+
+/// The user-interface thread's loop; see window_main.cpp.
+MainLoop& testLoop();
+
+/// Moves the pointer to a point of the window, presses and releases, as far as the window can tell.
+inline void clickAt(Window& window, Point at) {
+    window.OnMouseMove(0, at);
+    window.OnLButtonDown(1, at);
+    window.OnLButtonUp(0, at);
+}
+
+inline void clickControl(CDlgBase& dialog, unsigned id) {
+    const Rect rect = dialog.GetControl(id)->GetRect();
+    clickAt(dialog, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
+}
+
+class UiScenario {
+  public:
+    /// Hands work to the user-interface thread; for work that opens a dialog and comes back when that is
+    /// closed.
+    void start(std::function<void()> work) {
+        testLoop().post([work = std::move(work), over = m_over] {
+            if (!*over) work();
+        });
+    }
+    /// The same, and waits for its end. False when the dialog's run ended before.
+    bool run(const std::function<void()>& work) {
+        auto done = std::make_shared<std::promise<void>>();
+        auto future = done->get_future();
+        start([work, done] {
+            work();
+            done->set_value();
+        });
+        while (future.wait_for(std::chrono::milliseconds(5)) != std::future_status::ready)
+            if (*m_over) return false;
+        return true;
+    }
+    /// Waits until the condition holds on the user-interface thread. False after ten seconds without.
+    bool until(const std::function<bool()>& condition) {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        for (bool held = false; std::chrono::steady_clock::now() < deadline;) {
+            if (!run([&] { held = condition(); })) return false;
+            if (held) return true;
+        }
+        return false;
+    }
+    /// Waits until the dialog has ended by itself. False after ten seconds without.
+    bool untilOver() {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        while (!*m_over && std::chrono::steady_clock::now() < deadline)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        return *m_over;
+    }
+    /// Key names as X has them, separated by spaces; they go to the window that has the keyboard.
+    static bool keys(const std::string& names) { return std::system(("xdotool key " + names).c_str()) == 0; }
+    static bool type(const std::string& text) {
+        return std::system(("xdotool type '" + text + "'").c_str()) == 0;
+    }
+
+    /// Waits until a visible window of the program has this role, which is its class's name, and this size.
+    static bool windowShown(const std::string& role, Size size) {
+        const std::string look =
+            "for w in $(xdotool search --onlyvisible --name '^Tarnix Keyboard$' 2>/dev/null); do"
+            " xprop -id $w WM_WINDOW_ROLE; xdotool getwindowgeometry $w; done 2>/dev/null |"
+            " grep -A 4 '\"" +
+            role + "\"' | grep -q 'Geometry: " + std::to_string(size.width) + "x" +
+            std::to_string(size.height) + "$'";
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        while (std::chrono::steady_clock::now() < deadline)
+            if (std::system(look.c_str()) == 0) return true;
+        return false;
+    }
+    /// Waits for such a window and presses a key in it.
+    static bool answer(const std::string& role, Size size, const std::string& key) {
+        return windowShown(role, size) && keys(key);
+    }
+
+    /// Clicks with the pointer in the visible window with this role, in its client coordinates. False without
+    /// one.
+    static bool clickWindow(const std::string& role, Point at) {
+        const std::string click =
+            "for w in $(xdotool search --onlyvisible --name '^Tarnix Keyboard$'); do"
+            " xprop -id $w WM_WINDOW_ROLE | grep -q '\"" +
+            role +
+            "\"' &&"
+            " exec xdotool mousemove --window $w " +
+            std::to_string(at.x) + ' ' + std::to_string(at.y) + " click 1; done 2>/dev/null; exit 1";
+        return std::system(click.c_str()) == 0;
+    }
+
+    void end() { *m_over = true; }
+
+  private:
+    std::shared_ptr<std::atomic<bool>> m_over = std::make_shared<std::atomic<bool>>(false);
+};
+
+/// Runs the dialog until the scenario or the dialog itself ends it. Answers the dialog's result.
+inline int playIn(CDlgBase& dialog, const std::function<void(UiScenario&)>& scenario) {
+    UiScenario ui;
+    std::thread player([&] {
+        scenario(ui);
+        ui.run([&] { dialog.endModal(IDCANCEL); });
+    });
+    const int result = dialog.DoModal();
+    ui.end();
+    player.join();
+    return result;
+}
+
+} // namespace tarnix

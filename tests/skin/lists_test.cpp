@@ -1,0 +1,238 @@
+// The scroll bar and the two lists of macros.
+#include "skin/lists.h"
+#include "skin/scroll_bar.h"
+#include "skin_fixture.h"
+
+namespace tarnix {
+namespace {
+
+constexpr Color listColor = 0x261005;
+constexpr Color selectionColor = 0xDEA035;
+
+/// A bar with arrows of 17 x 18 pixels whose track goes from y = 20 to y = 219.
+class ScrollBarTest : public SkinTest {
+  protected:
+    void SetUp() override {
+        SkinTest::SetUp();
+        pictures.addStrip(188, 3, {17, 18});
+        pictures.addStrip(187, 3, {17, 18});
+        bar = &dialog.make<CVScrollBar>(0, 2115u, Rect{10, 2, 31, 236});
+        ASSERT_TRUE(bar->LoadImages());
+    }
+    std::pair<int, int> thumb() const { return {bar->thumb().top, bar->thumb().bottom}; }
+    void press(int y) { bar->OnLButtonDown(0, {20, y}); }
+    void drag(int y) { bar->OnMouseMove(0, {20, y}); }
+    void release(int y) { bar->OnLButtonUp(0, {20, y}); }
+
+    CVScrollBar* bar = nullptr;
+};
+
+TEST_F(ScrollBarTest, ThumbStandsWhereThePositionIs) {
+    using Ends = std::pair<int, int>;
+    EXPECT_EQ(thumb(), Ends(20, 219));
+    const struct {
+        int position, page, range;
+        Ends thumb;
+    } cases[] = {
+        {50, 10, 100, {120, 139}}, {0, 11, 3, {20, 219}},          {1, 1, 3, {87, 153}},
+        {95, 10, 100, {210, 219}}, {INT32_MAX, 10, 1, {220, 219}}, {-7, INT32_MAX, 1, {20, 219}},
+    };
+    for (const auto& [position, page, range, expected] : cases) {
+        bar->SetScrollState(position, page, range);
+        EXPECT_EQ(thumb(), expected) << position << ' ' << page << ' ' << range;
+    }
+    bar->SetScrollState(3, 4, 0);
+    EXPECT_EQ(thumb(), Ends(20, 219));
+    EXPECT_EQ(bar->range(), 1) << "a range of 0 keeps the values";
+}
+
+TEST_F(ScrollBarTest, PressTellsThePartAndMovesNothing) {
+    bar->SetScrollState(50, 10, 100);
+    for (const auto& [y, part] : {std::pair{5, 6u}, {225, 7u}, {130, 0u}, {119, 8u}, {139, 9u}}) {
+        press(y);
+        release(y);
+        EXPECT_EQ(dialog.take(), (Notices{{2115, part, 1}, {2115, 0, 2}})) << y;
+        EXPECT_EQ(thumb().first, 120);
+    }
+    press(130);
+    bar->OnLButtonUp(0, {400, 130});
+    EXPECT_EQ(dialog.take(), (Notices{{2115, 0, 1}}));
+}
+
+TEST_F(ScrollBarTest, DragTellsOnlyNewPositionsAndStopsAtTheEndsOfTheTrack) {
+    bar->SetScrollState(50, 10, 100);
+    press(130);
+    dialog.take();
+    drag(131);
+    EXPECT_EQ(thumb().first, 121);
+    EXPECT_EQ(dialog.take(), Notices{}) << "half a position is no new position";
+    drag(132);
+    EXPECT_EQ(dialog.take(), (Notices{{2115, 0, 3}}));
+    EXPECT_EQ(bar->position(), 51);
+    drag(230);
+    EXPECT_EQ(thumb(), std::pair(200, 219));
+    EXPECT_EQ(bar->position(), 90);
+    drag(3);
+    EXPECT_EQ(thumb(), std::pair(20, 39));
+    drag(33);
+    release(33);
+    EXPECT_EQ(bar->position(), 1);
+    EXPECT_EQ(thumb(), std::pair(22, 41)) << "the release snaps the thumb to its position";
+    dialog.take();
+    drag(100);
+    EXPECT_EQ(dialog.take(), Notices{});
+}
+
+TEST_F(ScrollBarTest, PartUnderThePointerIsLit) {
+    bar->SetScrollState(50, 10, 100);
+    const auto colors = [this] {
+        const auto surface = painted(*bar);
+        const Image& image = surface->image();
+        return std::array{image.pixel({12, 4}), image.pixel({12, 225}), image.pixel({10, 125}),
+                          image.pixel({15, 125})};
+    };
+    const Color plain = frameColor(0);
+    const Color lit = frameColor(1);
+    EXPECT_EQ(colors(), (std::array{plain, plain, Color{0x1F1F1F}, Color{0x508376}}));
+    EXPECT_TRUE(bar->OnMouseMove(0, {20, 5}));
+    EXPECT_EQ(colors(), (std::array{lit, plain, Color{0x1F1F1F}, Color{0x508376}}));
+    EXPECT_TRUE(bar->OnMouseMove(0, {20, 125}));
+    EXPECT_EQ(colors(), (std::array{plain, plain, Color{0x00FF00}, Color{0x68A294}}));
+    EXPECT_FALSE(bar->OnMouseMove(0, {20, 126}));
+    EXPECT_TRUE(bar->OnMouseMove(0, {20, 400}));
+}
+
+class ListsTest : public SkinTest {
+  protected:
+    void SetUp() override {
+        SkinTest::SetUp();
+        for (unsigned icon : {191u, 192u, 193u}) {
+            const int size = 12;
+            pictures.add(ResourceType::Png, icon, {size, size})
+                .fill({0, 0, size, size}, frameColor(static_cast<int>(icon) - 191));
+        }
+        names = &dialog.make<CEditShowList>(0, 2109u, place, library);
+        steps = &dialog.make<CImageShowList>(0, 2114u, place, library);
+        ASSERT_TRUE(steps->LoadImages());
+    }
+    void addMacros(int count) {
+        for (int i = 0; i < count; ++i)
+            AddMacroKey(library.sets[0], "M" + std::to_string(i));
+    }
+    void clickRow(CRowList& list, int line) {
+        const Point at{place.left + 30, place.top + line * 20 + 10};
+        list.OnLButtonDown(0, at);
+        list.OnLButtonUp(0, at);
+    }
+    static Color rowColor(CControlBase& list, int line) {
+        return painted(list)->image().pixel({place.right - 4, place.top + line * 20 + 1});
+    }
+
+    static constexpr Rect place = Rect::at(10, 10, 117, 90); // as high as 4.5 rows
+    MacroLibrary library{{{"First", {}}, {"Second", {}}}};
+    CEditShowList* names = nullptr;
+    CImageShowList* steps = nullptr;
+};
+
+TEST_F(ListsTest, ClickSelectsTheRowAndAScrolledListMaySelectPastItsEnd) {
+    EXPECT_EQ(names->m_nVisibleRows, 5);
+    addMacros(6);
+    names->SelectSet(0);
+    EXPECT_EQ(names->m_nSelected, 0);
+    clickRow(*names, 3);
+    EXPECT_EQ(names->m_nSelected, 3);
+    EXPECT_EQ(dialog.take(), (Notices{{2109, 0, 2}}));
+    EXPECT_EQ(rowColor(*names, 3), selectionColor);
+    EXPECT_EQ(rowColor(*names, 0), listColor);
+    names->ScrollToEnd();
+    EXPECT_EQ(names->m_nFirstRow, 1);
+    EXPECT_EQ(rowColor(*names, 2), selectionColor);
+
+    MacroKey& macro = library.sets[0].keys[5];
+    for (int i = 0; i < 4; ++i)
+        AppendAction(macro, MacroAction::delay(500));
+    steps->ShowMacro(0, 5);
+    EXPECT_EQ(steps->m_nSelected, -1);
+    steps->m_nFirstRow = 3;
+    clickRow(*steps, 3);
+    EXPECT_EQ(steps->m_nSelected, 6);
+    EXPECT_EQ(rowColor(*steps, 0), listColor);
+    EXPECT_EQ(rowColor(*steps, 3), listColor);
+    clickRow(*steps, 4);
+    EXPECT_EQ(steps->m_nSelected, 6) << "no line below the number of steps";
+}
+
+TEST_F(ListsTest, IndexesThatFitTheLibraryNoMoreShowNothing) {
+    addMacros(3);
+    names->SelectSet(0);
+    steps->ShowMacro(0, 2);
+    library.sets.clear();
+    for (const auto& [set, macro] : {std::pair{0, 0}, {-1, -1}, {INT32_MAX, INT32_MAX}, {INT32_MIN, 0}}) {
+        names->SelectSet(set);
+        steps->ShowMacro(set, macro);
+        for (CRowList* list : {static_cast<CRowList*>(names), static_cast<CRowList*>(steps)}) {
+            list->m_nFirstRow = list->m_nSelected = macro;
+            clickRow(*list, 0);
+            EXPECT_EQ(rowColor(*list, 0), listColor);
+        }
+        names->ScrollToEnd();
+        EXPECT_EQ(names->BeginNewName(), 1);
+        EXPECT_FALSE(names->isEditing());
+    }
+}
+
+TEST_F(ListsTest, StepShowsItsKeyOrItsDelayWithItsIcon) {
+    addMacros(1);
+    MacroKey& macro = library.sets[0].keys[0];
+    AppendAction(macro, MacroAction::key(0x41, true));
+    AppendAction(macro, MacroAction::key(0x41, false));
+    AppendAction(macro, MacroAction{{0, 0, 1, 244}});
+    steps->ShowMacro(0, 0);
+    const auto surface = painted(*steps);
+    for (int line = 0; line < 3; ++line) {
+        EXPECT_EQ(surface->image().pixel({place.left + 2, place.top + line * 20 + 3}), frameColor(line))
+            << line;
+        EXPECT_EQ(surface->image().pixel({place.left + 2, place.top + line * 20 + 2}), listColor) << line;
+    }
+    EXPECT_EQ(steps->text(0), "A Release");
+    EXPECT_EQ(steps->text(1), "A Press");
+    EXPECT_EQ(steps->text(2), "500ms");
+    EXPECT_EQ(steps->text(3), "");
+    macro.actionCount = 4000000000u;
+    EXPECT_EQ(steps->rowCount(), maxActionCount) << "a file may claim more steps than there are";
+}
+
+TEST_F(ListsTest, NewNameIsAddedOrItsFieldStaysOpenForCorrection) {
+    addMacros(5);
+    names->SelectSet(0);
+    EXPECT_EQ(names->BeginNewName(), 1);
+    EXPECT_EQ(names->BeginNewName(), 0);
+    EXPECT_EQ(names->m_nFirstRow, 1) << "the list scrolls until the new row is its last one";
+    const struct {
+        const char* typed;
+        LParam code;
+        bool open;
+    } cases[] = {
+        {"thirteen char", 13, true},
+        {"M3", 12, true},
+        {"\xE4\xB8\xAD\xE6\x96\x87\xE4\xB8\xAD\xE6\x96\x87\xE4\xB8\xAD", 13, true}, // 5 characters, 15 bytes
+        {"m3", 11, false},
+        {"twelve chars", 11, false},
+        {"", 0, false},
+    };
+    for (const auto& [typed, code, open] : cases) {
+        names->BeginNewName();
+        names->editor()->setText(typed);
+        clickRow(*names, 0);
+        Notices expected{{2109, 0, 2}};
+        if (code) expected.insert(expected.begin(), {2109, 0, code});
+        EXPECT_EQ(dialog.take(), expected) << typed;
+        EXPECT_EQ(names->isEditing(), open) << typed;
+        EXPECT_EQ(names->editorText(), open ? typed : "");
+    }
+    EXPECT_EQ(library.sets[0].keys.size(), 7u);
+    EXPECT_EQ(library.sets[0].keys[6].name, "twelve chars");
+}
+
+} // namespace
+} // namespace tarnix

@@ -1,0 +1,271 @@
+// Popup lists: rows, messages, records and places.
+#include "macro/macro_library.h"
+#include "skin/list_popup.h"
+#include "skin/selection.h"
+#include "skin_fixture.h"
+
+namespace tarnix {
+namespace {
+
+constexpr Message notify = 0x500;
+constexpr unsigned tag = 2078;
+
+/// A record as the owner got it, copied while it was valid.
+struct Answer {
+    Notice notice;
+    std::string text;
+    std::array<std::uint8_t, 4> bytes{};
+    bool operator==(const Answer&) const = default;
+};
+
+class PopupsTest : public SkinTest {
+  protected:
+    void SetUp() override {
+        SkinTest::SetUp();
+        dialog.show();
+        const auto note = [this](WParam w, LParam l) {
+            const SelectionRecord* record = receivedSelection(l);
+            answers.push_back({{notify, w, record ? 0 : l}, record ? record->text : "", {}});
+            if (record) answers.back().bytes = record->bytes;
+        };
+        dialog.m_messages.on(notify, note);
+        dialog.m_messages.on(PopupPlaces::macroSetNotify, note);
+    }
+    CListPopup& open(PopupPlace place, std::unique_ptr<CListPopup> popup) {
+        CListPopup& opened = *popup;
+        dialog.popups().open(place, std::move(popup), Rect::at(0, 0, 169, 0), notify, tag);
+        dialog.take();
+        return opened;
+    }
+    template <class T>
+    CListPopup& open(PopupPlace place) {
+        return open(place, std::make_unique<T>());
+    }
+    static Point middle(const CListPopup& popup, std::size_t row) {
+        const Rect& rect = popup.rows()[row].rect;
+        return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+    }
+    static void choose(CListPopup& popup, std::size_t row) {
+        popup.OnMouseMove(0, middle(popup, row));
+        popup.OnLButtonDown(0, middle(popup, row));
+        popup.OnLButtonUp(0, middle(popup, row));
+    }
+    std::vector<Answer> takeAnswers() { return std::exchange(answers, {}); }
+
+    MacroLibrary library{{{"First", {{"Fire"}, {"Water"}}}, {"Second", {}}}};
+    std::vector<Answer> answers;
+};
+
+TEST_F(PopupsTest, ListIsAsWideAsItsClassAndAsHighAsItsRows) {
+    MacroLibrary empty;
+    const struct {
+        CListPopup& popup;
+        unsigned kind;
+        Size size;
+    } cases[] = {
+        {open<CComboPopup>(PopupPlace::Category), 0, {169, 134}},
+        {open<CProfilePopup>(PopupPlace::Multimedia), 1, {158, 134}},
+        {open<CDPIPopup>(PopupPlace::Web), 2, {158, 166}},
+        {open<CMultimediaPopup>(PopupPlace::Mouse), 3, {169, 118}},
+        {open(PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(library)), 4, {158, 38}},
+        {open(PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library)), 5, {194, 74}},
+        {open<CLightModePopup>(PopupPlace::LightMode), 9, {169, 262}},
+        {open<CLightBrightnessPopup>(PopupPlace::LightBrightness), 8, {169, 86}},
+        {open<CLightSpeedPopup>(PopupPlace::LightSpeed), 10, {169, 54}},
+    };
+    for (const auto& [popup, kind, size] : cases) {
+        EXPECT_EQ(popup.kind(), kind);
+        EXPECT_EQ(popup.clientRect().size(), size) << kind;
+    }
+    EXPECT_EQ(
+        open(PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(empty)).clientRect().height(),
+        10);
+    EXPECT_EQ(CMacroSetPopup(library, 7).kind(), 107u);
+}
+
+TEST_F(PopupsTest, LossOfActivationTellsTheOwnerOnceAndLeavesThePopupOpen) {
+    const struct {
+        PopupPlace place;
+        std::unique_ptr<CListPopup> popup;
+        Notice expected;
+    } cases[] = {
+        {PopupPlace::Category, std::make_unique<CComboPopup>(), {1029, tag, 0}},
+        {PopupPlace::Multimedia, std::make_unique<CProfilePopup>(), {1032, tag, 1}},
+        {PopupPlace::Web, std::make_unique<CDPIPopup>(), {1042, tag, 2}},
+        {PopupPlace::Mouse, std::make_unique<CMultimediaPopup>(), {1045, tag, 3}},
+        {PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(library), {1047, tag, 4}},
+        {PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library), {1055, tag, 5}},
+        {PopupPlace::LightBrightness, std::make_unique<CLightBrightnessPopup>(), {1064, tag, 8}},
+        {PopupPlace::LightMode, std::make_unique<CLightModePopup>(), {1069, tag, 9}},
+        {PopupPlace::LightSpeed, std::make_unique<CLightSpeedPopup>(), {1072, tag, 10}},
+        {PopupPlace::LightSpeed, std::make_unique<CMacroSetPopup>(library, 3), {1050, tag, 103}},
+    };
+    for (auto& [place, popup, expected] : cases) {
+        CListPopup& opened = open(place, std::move(const_cast<std::unique_ptr<CListPopup>&>(popup)));
+        opened.OnActivate(false);
+        EXPECT_EQ(dialog.take(), Notices{expected});
+        EXPECT_TRUE(opened.exists());
+        EXPECT_EQ(dialog.popups().at(place), &opened);
+        dialog.popups().close(place);
+        EXPECT_EQ(dialog.popups().at(place), nullptr);
+        opened.OnActivate(false);
+        EXPECT_EQ(dialog.take(), Notices{}) << "a popup that was let go speaks no more for its place";
+    }
+}
+
+TEST_F(PopupsTest, EveryRowOfTheFixedListsAnswersWithItsOwnRecord) {
+    const auto check = [this](CListPopup& popup, auto bytesOfRow) {
+        for (std::size_t row = 0; row < popup.rows().size(); ++row) {
+            choose(popup, row);
+            const auto got = takeAnswers();
+            ASSERT_FALSE(got.empty());
+            EXPECT_EQ(got.back(), (Answer{{notify, tag, 0}, popup.rows()[row].text, bytesOfRow(row)}));
+        }
+    };
+    using Bytes = std::array<std::uint8_t, 4>;
+    const auto counted = [](std::uint8_t first, int start) {
+        return [=](std::size_t row) {
+            return Bytes{first, static_cast<std::uint8_t>(start + static_cast<int>(row))};
+        };
+    };
+    const auto setting = [](std::size_t row) { return Bytes{static_cast<std::uint8_t>(row)}; };
+    const Bytes mouse[] = {{3, 1}, {3, 2}, {3, 4}, {3, 8}, {3, 16}, {4, 0}, {5, 0}};
+    check(open<CProfilePopup>(PopupPlace::Multimedia), counted(2, 0xA0));
+    check(open<CDPIPopup>(PopupPlace::Web), counted(2, 0xA8));
+    check(open<CMultimediaPopup>(PopupPlace::Mouse), [&](std::size_t row) { return mouse[row]; });
+    check(open<CLightModePopup>(PopupPlace::LightMode), setting);
+    check(open<CLightBrightnessPopup>(PopupPlace::LightBrightness), setting);
+    check(open<CLightSpeedPopup>(PopupPlace::LightSpeed), setting);
+}
+
+TEST_F(PopupsTest, CategoryListAnswersPressesAndHoversAndHasItsOwnMessages) {
+    CListPopup& popup = open<CComboPopup>(PopupPlace::Category);
+    const Notice hovers[] = {{1046, tag, 1}, {1030, tag, 2}, {1040, tag, 3}, {1043, tag, 4},
+                             {1033, tag, 5}, {1033, tag, 6}, {1033, tag, 7}, {1033, tag, 8}};
+    for (std::size_t row = 0; row < 8; ++row) {
+        popup.OnMouseMove(0, middle(popup, row));
+        popup.OnMouseMove(0, popup.rows()[row].rect.topLeft());
+        EXPECT_EQ(dialog.take(), Notices{hovers[row]})
+            << "one message for a row, however the pointer moves on it";
+    }
+    const std::string chinese = "\xC4\xAC\xC8\xCF\xB9\xA6\xC4\xDC";
+    choose(popup, 0);
+    EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, 0, 0}, "", {}}, {{notify, 0, 0}, "", {1}}}));
+    choose(popup, 4);
+    EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, 0}, chinese, {6, 1}}}));
+    choose(popup, 7);
+    EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, 0}, "No Function", {0, 0}}}));
+    dialog.take();
+    for (const auto& [row, message] : {std::pair{5u, 1035u}, {6u, 1037u}}) {
+        choose(popup, row);
+        EXPECT_EQ(dialog.take().back(), (Notice{message, tag, 0}));
+        EXPECT_EQ(takeAnswers(), std::vector<Answer>{});
+    }
+}
+
+TEST_F(PopupsTest, ReleaseOutsideThePressedRowSendsNothingAndTakesTheHighlightAway) {
+    CListPopup& popup = open<CProfilePopup>(PopupPlace::Multimedia);
+    popup.OnMouseMove(0, middle(popup, 2));
+    popup.OnLButtonDown(0, middle(popup, 2));
+    popup.OnMouseMove(0, middle(popup, 3));
+    EXPECT_EQ(popup.hotRow(), 2);
+    popup.OnLButtonUp(0, middle(popup, 3));
+    EXPECT_EQ(popup.hotRow(), -1);
+    popup.OnLButtonUp(0, middle(popup, 3));
+    EXPECT_EQ(dialog.take(), Notices{});
+}
+
+TEST_F(PopupsTest, MacroListsAnswerFromTheLibraryAsItIsNow) {
+    CListPopup& macros = open(PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(library));
+    choose(macros, 1);
+    EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, 0}, "Water", {1}}}));
+    CListPopup& sets = open(PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library));
+    for (const auto& [row, code] : {std::pair{0u, 2}, {1u, 3}, {3u, 0}, {4u, 1}}) {
+        choose(sets, row);
+        EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, code}, "", {}}}));
+    }
+    sets.OnMouseMove(0, middle(sets, 2));
+    EXPECT_EQ(sets.hotRow(), -1) << "a separator is never hot";
+
+    auto owned = std::make_unique<CMacroSetPopup>(library, 0);
+    CListPopup& set = *owned;
+    dialog.popups().openMacroSet(std::move(owned), Rect::at(0, 0, 100, 100), tag, 4000000000u);
+    EXPECT_EQ(dialog.popups().macroSet(4000000000u), &set);
+    EXPECT_EQ(dialog.popups().macroSet(5), nullptr);
+    choose(set, 0);
+    choose(set, 3);
+    EXPECT_EQ(takeAnswers(),
+              (std::vector<Answer>{{{notify, tag, 0}, "", {}}, {{notify, tag, 0}, "Water", {0x30, 0, 1}}}));
+    library.sets.clear();
+    choose(set, 3);
+    choose(macros, 1);
+    EXPECT_EQ(takeAnswers(), std::vector<Answer>{});
+}
+
+TEST_F(PopupsTest, RecordIsKnownOnlyWhileItIsSent) {
+    const SelectionRecord record{"text", {1, 2, 3, 4}};
+    const auto word = reinterpret_cast<LParam>(&record);
+    EXPECT_EQ(receivedSelection(word), nullptr);
+    sendSelection(dialog, notify, 5, record);
+    EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, 5, 0}, "text", {1, 2, 3, 4}}}));
+    EXPECT_EQ(receivedSelection(word), nullptr);
+    for (LParam other : {LParam{0}, LParam{1}, LParam{-1}})
+        EXPECT_EQ(receivedSelection(other), nullptr);
+}
+
+TEST_F(PopupsTest, EscapeClosesTheListsAsALossOfActivationDoesAndNothingElse) {
+    auto& field = dialog.make<CComboButton>(3, Message{0x404}, tag, Rect::at(0, 0, 169, 26));
+    field.m_bOpen = true;
+    dialog.m_messages.on(1029, [&] {
+        if (dialog.popups().at(PopupPlace::Multimedia)) return;
+        field.m_bOpen = false;
+        dialog.popups().close(PopupPlace::Category);
+    });
+    open<CComboPopup>(PopupPlace::Category);
+    open<CProfilePopup>(PopupPlace::Multimedia);
+    EXPECT_TRUE(field.m_bOpen);
+    dialog.OnKey({KeyPress::Key::Escape, true});
+    EXPECT_FALSE(field.m_bOpen);
+    EXPECT_FALSE(dialog.popups().any());
+    EXPECT_EQ(dialog.cancels, 0);
+    dialog.OnKey({KeyPress::Key::Escape, true});
+    EXPECT_EQ(dialog.cancels, 1);
+}
+
+TEST_F(PopupsTest, ListStaysOnTheWorkAreaByAShiftAlone) {
+    const Rect area = Window::workArea();
+    dialog.moveTo({area.right - 100, area.bottom - 50});
+    CListPopup& popup = open<CLightModePopup>(PopupPlace::LightMode);
+    const Rect rect = popup.screenRect();
+    EXPECT_EQ(rect.size(), (Size{169, 262}));
+    EXPECT_EQ(rect.right, area.right);
+    EXPECT_EQ(rect.bottom, area.bottom);
+
+    library.sets[0].keys.assign(5000, MacroKey{"Many"});
+    CListPopup& high = open(PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(library));
+    EXPECT_EQ(high.screenRect().top, area.top);
+    EXPECT_LT(high.clientRect().height(), 32768) << "more than a window can be high";
+}
+
+TEST_F(PopupsTest, FaceHasABorderRowsAHighlightAndArrows) {
+    CListPopup& popup = open<CComboPopup>(PopupPlace::Category);
+    popup.OnMouseMove(0, middle(popup, 1));
+    const auto surface = makeSurface({169, 134});
+    popup.OnPaint(surface->canvas(), {0, 0, 169, 134});
+    const Image& face = surface->image();
+    EXPECT_EQ(face.pixel({0, 0}), 0x6BD2B9u);
+    EXPECT_EQ(face.pixel({168, 133}), 0x6BD2B9u);
+    EXPECT_EQ(face.pixel({1, 1}), 0x80ACA1u);
+    EXPECT_EQ(face.pixel({3, 19}), 0xDEA035u);
+    EXPECT_EQ(face.pixel({165, 34}), 0xDEA035u);
+    EXPECT_EQ(face.pixel({3, 35}), 0x80ACA1u);
+    for (const auto& [x, first, last] : {std::tuple{160, 6, 12}, {161, 7, 11}, {162, 8, 10}, {163, 9, 9}}) {
+        for (int y = first; y <= last; ++y)
+            EXPECT_EQ(face.pixel({x, y}), 0xFFFFFFu) << x << ',' << y;
+        EXPECT_EQ(face.pixel({x, last + 1}), 0x80ACA1u);
+    }
+    EXPECT_EQ(face.pixel({160, 6 + 4 * 16}), 0x80ACA1u) << "no arrow without a sub-list";
+}
+
+} // namespace
+} // namespace tarnix

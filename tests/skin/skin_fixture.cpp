@@ -1,0 +1,103 @@
+#include "skin_fixture.h"
+
+#include "platform/application.h"
+#include "skin/wnd_popup.h"
+
+namespace tarnix {
+
+namespace {
+
+constexpr unsigned stepTimer = 7;
+constexpr int stepInterval = 5;
+constexpr int stepLimit = 2000; ///< ticks that a step may take
+
+class Desktop : public ::testing::Environment {
+  public:
+    void SetUp() override {
+        static char name[] = "skin_test";
+        static char* arguments[] = {name, nullptr};
+        static int count = 1;
+        m_application = std::make_unique<Application>(count, arguments);
+    }
+    void TearDown() override { m_application.reset(); }
+
+  private:
+    std::unique_ptr<Application> m_application;
+};
+
+[[maybe_unused]] const auto* const desktop = ::testing::AddGlobalTestEnvironment(new Desktop);
+
+} // namespace
+
+std::ostream& operator<<(std::ostream& out, const Notice& notice) {
+    return out << '(' << notice.message << ", " << notice.w << ", " << notice.l << ')';
+}
+
+LResult TestDialog::OnMessage(Message message, WParam w, LParam l) {
+    if (message != CWndPopup::goneMessage) notices.push_back({message, w, l});
+    return CDlgBase::OnMessage(message, w, l);
+}
+
+void TestDialog::OnPaint(Canvas& canvas, const Rect& dirty) {
+    paints.push_back(dirty);
+    CDlgBase::OnPaint(canvas, dirty);
+}
+
+std::size_t TestDialog::run(std::vector<Step> steps) {
+    m_steps = std::move(steps);
+    m_step = 0;
+    startTimer(stepTimer, stepInterval);
+    m_ticks = -1;
+    runModal();
+    return m_step;
+}
+
+void TestDialog::OnTimer(unsigned id) {
+    if (id != stepTimer) return;
+    if (m_ticks++ < 0) return m_steps[m_step].act();
+    if (m_ticks > stepLimit) return endModal(IDCANCEL);
+    if (!m_steps[m_step].done()) return;
+    m_ticks = 0;
+    if (++m_step == m_steps.size()) return endModal(IDOK);
+    m_steps[m_step].act();
+}
+
+void TestResources::addStrip(unsigned id, int frames, Size frame, int leftoverColumns) {
+    const Size size{frames * frame.width + leftoverColumns, frame.height};
+    Canvas& canvas = add(ResourceType::Png, id, size);
+    canvas.fill({0, 0, size.width, size.height}, leftover);
+    for (int i = 0; i < frames; ++i)
+        canvas.fill(Rect::at(i * frame.width, 0, frame.width, frame.height), frameColor(i));
+}
+
+Canvas& TestResources::add(ResourceType type, unsigned id, Size size) {
+    auto& picture = m_pictures[{type, id}] = makeSurface(size);
+    return picture->canvas();
+}
+
+const Image* TestResources::find(ResourceType type, unsigned id) {
+    const auto found = m_pictures.find({type, id});
+    return found == m_pictures.end() ? nullptr : &found->second->image();
+}
+
+std::unique_ptr<Surface> painted(CControlBase& control, Size size) {
+    auto surface = makeSurface(size);
+    control.Draw(surface->canvas(), {0, 0, size.width, size.height});
+    return surface;
+}
+
+int shownFrame(CControlBase& control) {
+    const Rect rect = control.GetRect();
+    const auto surface = painted(control);
+    const Color color = surface->image().pixel({(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
+    for (int frame = 0; frame < 7; ++frame)
+        if (color == frameColor(frame)) return frame;
+    return -1;
+}
+
+void SkinTest::SetUp() {
+    ASSERT_TRUE(dialog.Create());
+    dialog.take();
+}
+
+} // namespace tarnix

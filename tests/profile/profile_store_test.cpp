@@ -72,6 +72,8 @@ TEST(ProfileStore, EditsGoToTheCurrentProfileWithTheFallbacksForStrangeControls)
     store.SetSlotPath(4, "/four");
     store.SetSlotPath(7, "/seven");
     EXPECT_EQ(store.slotPath(4) + store.slotPath(0), "/four/seven");
+    store.SetSlotPath(0, "/zero");
+    EXPECT_EQ(store.slotPath(0), "/zero");
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <QTimer>
+#include <QtMath>
 #include <cstdlib>
 
 namespace tarnix::testing {
@@ -16,6 +17,12 @@ namespace {
 /// The tool returns once the display has taken the events.
 void hand(const QStringList& arguments) {
     QProcess::execute(QStringLiteral("xdotool"), arguments);
+}
+
+QStringList move(Point screen) {
+    const qreal scale = qGuiApp->devicePixelRatio();
+    return {QStringLiteral("mousemove"), QString::number(qCeil(screen.x * scale)),
+            QString::number(qCeil(screen.y * scale))};
 }
 
 /// A round trip: whatever the display had for this program is in its queue afterwards.
@@ -48,7 +55,7 @@ void settle() {
 }
 
 void movePointer(Point screen) {
-    hand({"mousemove", QString::number(screen.x), QString::number(screen.y)});
+    hand(move(screen));
 }
 
 void pressButton(int button) {
@@ -60,12 +67,11 @@ void releaseButton(int button) {
 }
 
 void click(Point screen) {
-    hand({"mousemove", QString::number(screen.x), QString::number(screen.y), "click", "1"});
+    hand(move(screen) + QStringList{"click", "1"});
 }
 
 void doubleClick(Point screen) {
-    hand({"mousemove", QString::number(screen.x), QString::number(screen.y), "click", "--repeat", "2",
-          "--delay", "20", "1"});
+    hand(move(screen) + QStringList{"click", "--repeat", "2", "--delay", "20", "1"});
 }
 
 void turnWheel(bool up) {

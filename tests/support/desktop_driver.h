@@ -6,9 +6,13 @@
 #include <functional>
 #include <string>
 
+#include "platform/application.h"
 #include "platform/geometry.h"
 
 namespace tarnix::testing {
+
+/// The test program's, made by the main function that comes with this driver.
+Application& application();
 
 /// Runs the event loop until the condition holds. False when it does not within the time.
 bool runUntil(const std::function<bool()>& condition,
@@ -16,6 +20,7 @@ bool runUntil(const std::function<bool()>& condition,
 /// Runs the event loop until everything that was sent to the display so far has come back and is dealt with.
 void settle();
 
+// Places are in pixels at 100 %, as everywhere.
 void movePointer(Point screen);
 void pressButton(int button = 1);
 void releaseButton(int button = 1);

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include "modal_runs.h"
 #include "native_window.h"
 #include "window_widget.h"
 #include "x11.h"
@@ -61,6 +62,11 @@ void Activation::withdraw(Window& window) {
 void Activation::focusMoved() {
     Window* focused = WindowRegistry::instance().find(QGuiApplication::focusWindow());
     Window* active = WindowRegistry::instance().find(m_active);
+    if (focused && isShutOut(*focused)) {
+        // The user works in the modal window, wherever the focus was put.
+        if (Window* modal = modalWindow()) modal->native()->widget->activateWindow();
+        return;
+    }
     // A popup is active while its owner has the focus.
     if (focused && active && active->native()->widget->kind() == WindowKind::Popup &&
         WindowRegistry::isOwnedBy(*active, *focused))

@@ -14,6 +14,7 @@
 
 #include "activation.h"
 #include "event_gate.h"
+#include "modal_runs.h"
 #include "qt_main_loop.h"
 #include "ui_clock.h"
 
@@ -74,7 +75,8 @@ void raiseEnd(int) {
 
 } // namespace
 
-/// Also the listener for the session manager's end, which the toolkit gives to the application object.
+/// Also looks at every event on its way: the session manager's end comes to the application object, and modal
+/// runs shut windows out.
 struct Application::Native : QObject {
     Native(int& argc, char** argv) : application(makeApplication(argc, argv)) {
         QApplication::setQuitOnLastWindowClosed(false);
@@ -105,8 +107,8 @@ struct Application::Native : QObject {
         }
     }
 
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::Quit) return false;
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        if (event->type() != QEvent::Quit) return isShutOut(*receiver, *event);
         EventGate::instance().enter([this] {
             if (quitRequest) quitRequest();
         });

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QEventLoop>
 #include <algorithm>
 #include <functional>
@@ -9,6 +10,7 @@
 
 #include "native_window.h"
 #include "window_widget.h"
+#include "x11.h"
 
 namespace tarnix {
 
@@ -48,6 +50,26 @@ std::vector<Run*>::iterator runOf(const Window& window) {
                         [handle](const Run* run) { return handle != 0 && run->window == handle; });
 }
 
+bool isUsersWork(QEvent::Type type) {
+    switch (type) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::Enter:
+        case QEvent::Wheel:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::InputMethod:
+        case QEvent::ContextMenu:
+        case QEvent::Drop:
+        case QEvent::Close:
+            return true;
+        default:
+            return false;
+    }
+}
+
 void closeMenus() {
     while (QWidget* menu = QApplication::activePopupWidget()) {
         if (!menu->close()) break;
@@ -65,8 +87,8 @@ int runModally(Window& window) {
     } else if (!outerRunHasEnded()) {
         QEventLoop loop;
         run.stop = [&loop] { loop.quit(); };
-        // The first run is the program itself: there is nothing behind it to shut out.
-        if (!g_runs.empty()) native.widget->setWindowModality(Qt::ApplicationModal);
+        // The first run is the program itself, for the desktop an ordinary window.
+        if (!g_runs.empty()) addInitialState(*native.widget, InitialState::Modal);
         const Entry entry(run);
         window.show();
         if (!run.ended) loop.exec();
@@ -88,6 +110,23 @@ void endModalRun(Window& window, int result) {
     for (auto inner = g_runs.end() - 1; inner != found; --inner)
         end(**inner, IDCANCEL);
     end(**found, result);
+}
+
+Window* modalWindow() {
+    return g_runs.empty() ? nullptr : WindowRegistry::instance().find(g_runs.back()->window);
+}
+
+bool isShutOut(const Window& window) {
+    const Window* modal = modalWindow();
+    return modal && modal != &window && !WindowRegistry::isOwnedBy(window, *modal);
+}
+
+bool isShutOut(QObject& receiver, QEvent& event) {
+    if (!receiver.isWidgetType() || !isUsersWork(event.type())) return false;
+    const auto* widget = dynamic_cast<WindowWidget*>(static_cast<QWidget&>(receiver).window());
+    if (!widget || !widget->window() || !isShutOut(*widget->window())) return false;
+    event.ignore();
+    return true;
 }
 
 bool runModally(QDialog& dialog) {

@@ -1,7 +1,10 @@
-// Windows that run modally, the innermost last.
+// Windows that run modally, the innermost last. The toolkit's own modality is left out of it: it would shut
+// out the icon in the notification area, too.
 #pragma once
 
 class QDialog;
+class QEvent;
+class QObject;
 
 namespace tarnix {
 
@@ -15,6 +18,13 @@ int runModally(Window& window);
 void endModalRun(Window& window, int result);
 /// True from runModally until the run has been ended.
 bool runsModally(const Window& window);
+
+/// The window of the innermost run; none when a dialog of the toolkit is the innermost, or there is none.
+Window* modalWindow();
+/// Whether a modal run keeps the user from working in the window.
+bool isShutOut(const Window& window);
+/// True when the event is the user's work in a window that is shut out.
+bool isShutOut(QObject& receiver, QEvent& event);
 
 /// Runs one of the toolkit's own dialogs. True when accepted.
 bool runModally(QDialog& dialog);

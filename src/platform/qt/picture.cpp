@@ -39,12 +39,15 @@ Size Picture::size() const {
 }
 
 Color Picture::pixel(Point at) const {
-    const Size whole = size();
-    if (at.x < 0 || at.y < 0 || at.x >= whole.width || at.y >= whole.height) return 0;
-    const auto* row = reinterpret_cast<const QRgb*>(m_pixels.constScanLine(at.y * m_scale));
-    const QRgb stored = row[at.x * m_scale];
-    const QRgb plain = m_pixels.format() == QImage::Format_RGB32 ? stored : qUnpremultiply(stored);
-    return rgb(qRed(plain), qGreen(plain), qBlue(plain));
+    Color color = 0;
+    if (at.x >= 0 && at.x < size().width) readColors(at, {&color, 1});
+    return color;
+}
+
+void Picture::readRow(int y, std::span<Color> colors) const {
+    const auto width = static_cast<std::size_t>(size().width);
+    readColors({0, y}, colors.first(std::min(colors.size(), width)));
+    std::fill(colors.begin() + static_cast<std::ptrdiff_t>(std::min(colors.size(), width)), colors.end(), Color{0});
 }
 
 Picture::Pixels Picture::pixelsFor(qreal deviceScale) const {

@@ -20,6 +20,7 @@ class Picture : public Image {
 
     Size size() const override;
     Color pixel(Point at) const override;
+    void readRow(int y, std::span<Color> colors) const override;
 
     struct Pixels {
         const QImage& image;

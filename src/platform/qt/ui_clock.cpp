@@ -42,6 +42,8 @@ class Alarm : public QObject {
         m_timer.start(static_cast<int>(whole.count()), Qt::PreciseTimer, this);
     }
 
+    bool rung() const { return !m_timer.isActive(); }
+
   protected:
     void timerEvent(QTimerEvent*) override { m_timer.stop(); }
 
@@ -57,7 +59,7 @@ void paintUntil(nanoseconds end) {
     const nanoseconds limit = end - lastStretch;
     if (monotonicNow() >= limit) return;
     const Alarm alarm(limit - monotonicNow());
-    while (monotonicNow() < limit)
+    while (!alarm.rung())
         loop->processEvents(QEventLoop::WaitForMoreEvents);
 }
 

@@ -56,7 +56,7 @@ bool Window::createWindow(const WindowTraits& traits, const Rect& screenRect) {
     widget->move(screenRect.left, screenRect.top);
     widget->winId();
     stayAbove(*widget, traits.owner);
-    if (!traits.taskbarButton) skipTaskbar(*widget);
+    if (!traits.taskbarButton) addInitialState(*widget, InitialState::SkipTaskbar);
     m_native->handle = WindowRegistry::instance().add(*this);
     return true;
 }

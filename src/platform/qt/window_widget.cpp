@@ -18,6 +18,17 @@ namespace tarnix {
 
 namespace {
 
+bool g_painted = false; ///< whether any window has painted itself
+std::vector<QPointer<QTimer>> g_afterPaint;
+constexpr int longestWait = 1000; ///< ms, for a program whose windows stay hidden
+
+void notePaint() {
+    if (std::exchange(g_painted, true)) return;
+    for (const QPointer<QTimer>& timer : std::exchange(g_afterPaint, {})) {
+        if (timer) timer->start(0);
+    }
+}
+
 Qt::WindowFlags flagsFor(const WindowTraits& traits) {
     constexpr Qt::WindowFlags unmanaged = Qt::Tool | Qt::FramelessWindowHint |
                                           Qt::X11BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus |
@@ -53,6 +64,14 @@ KeyPress::Key keyOf(const QKeyEvent& event) {
 }
 
 } // namespace
+
+void afterFirstPaint(QObject& context, std::function<void()> callback) {
+    auto* timer = new QTimer(&context);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, &context, std::move(callback));
+    timer->start(g_painted ? 0 : longestWait);
+    if (!g_painted) g_afterPaint.emplace_back(timer);
+}
 
 WindowWidget::WindowWidget(Window& window, const WindowTraits& traits)
     : QWidget(nullptr, flagsFor(traits)), m_window(&window), m_kind(traits.kind) {
@@ -126,6 +145,7 @@ void WindowWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     QtCanvas canvas(painter);
     call([&](Window& window) { window.OnPaint(canvas, fromQt(event->rect())); });
+    notePaint();
 }
 
 void WindowWidget::setTimer(unsigned id, int milliseconds) {

@@ -5,6 +5,7 @@
 #include <QRegion>
 #include <QTimer>
 #include <QWidget>
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -82,5 +83,9 @@ class WindowWidget : public QWidget {
     bool m_beingDestroyed = false;
     bool m_closeAsked = false; ///< while a handler was running
 };
+
+/// Calls back from the event loop once the first window has painted itself; soon, when that has happened
+/// already.
+void afterFirstPaint(QObject& context, std::function<void()> callback);
 
 } // namespace tarnix

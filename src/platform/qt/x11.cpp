@@ -33,6 +33,12 @@ xcb_atom_t atom(xcb_connection_t* x11, const char* name) {
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
+/// Trays of the first screen; the toolkit knows no other.
+xcb_atom_t traySelection(xcb_connection_t* x11) {
+    static const xcb_atom_t selection = atom(x11, "_NET_SYSTEM_TRAY_S0");
+    return selection;
+}
+
 } // namespace
 
 bool leftButtonIsDown() {
@@ -52,15 +58,31 @@ bool windowManagerRuns() {
     return reply && xcb_get_property_value_length(reply.get()) > 0;
 }
 
-void skipTaskbar(const QWidget& window) {
+void addInitialState(const QWidget& window, InitialState state) {
     xcb_connection_t* x11 = connection();
     if (!x11) return;
-    const xcb_atom_t states[] = {atom(x11, "_NET_WM_STATE_SKIP_TASKBAR"),
-                                 atom(x11, "_NET_WM_STATE_SKIP_PAGER")};
+    const char* name = state == InitialState::Modal ? "_NET_WM_STATE_MODAL" : "_NET_WM_STATE_SKIP_TASKBAR";
+    const xcb_atom_t value = atom(x11, name);
     // The toolkit keeps what others wrote here when it maps the window.
     xcb_change_property(x11, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window.winId()),
-                        atom(x11, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 2, states);
+                        atom(x11, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 1, &value);
     xcb_flush(x11);
+}
+
+bool xembedTrayRuns() {
+    xcb_connection_t* x11 = connection();
+    if (!x11) return false;
+    const auto cookie = xcb_get_selection_owner(x11, traySelection(x11));
+    const ReplyPointer<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(x11, cookie, nullptr));
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+bool announcesXembedTray(std::uint32_t type, std::uint32_t selection) {
+    xcb_connection_t* x11 = connection();
+    if (!x11) return false;
+    static const xcb_atom_t manager = atom(x11, "MANAGER");
+    return type == manager && selection == traySelection(x11);
 }
 
 } // namespace tarnix

@@ -2,6 +2,8 @@
 // nothing.
 #pragma once
 
+#include <cstdint>
+
 class QWidget;
 
 namespace tarnix {
@@ -10,7 +12,14 @@ namespace tarnix {
 bool leftButtonIsDown();
 /// Whether a window manager runs. True where there is no telling.
 bool windowManagerRuns();
-/// Keeps the window, which must have a native window and be hidden, out of taskbars.
-void skipTaskbar(const QWidget& window);
+/// What the window manager is told of a window that is still hidden; its native window exists.
+enum class InitialState { SkipTaskbar, Modal };
+void addInitialState(const QWidget& window, InitialState state);
+
+/// Whether an XEmbed tray runs on the display.
+bool xembedTrayRuns();
+/// Whether a client message to the root window says that an XEmbed tray starts: its type and its second
+/// datum.
+bool announcesXembedTray(std::uint32_t type, std::uint32_t selection);
 
 } // namespace tarnix

@@ -1,0 +1,40 @@
+// What the window tests share: the one application of the process, and windows at known places.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include "platform/application.h"
+#include "recording_window.h"
+#include "support/desktop_driver.h"
+
+namespace tarnix::testing {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+class WindowTest : public ::testing::Test {
+  protected:
+    static constexpr Rect mainPlace = Rect::at(100, 120, 300, 200);
+
+    ~WindowTest() override { movePointer({1200, 1000}); }
+
+    /// Shown, painted and active; the log is empty afterwards.
+    void showMain(Window& window, const Rect& place = mainPlace) {
+        movePointer({1200, 1000});
+        ASSERT_TRUE(window.createWindow({.role = "Main", .taskbarButton = true}, place));
+        window.show();
+        ASSERT_TRUE(runUntil([&] { return window.screenRect() == place && m_log.size() >= 1; }));
+        settle();
+        m_log.clear();
+    }
+
+    bool logged(const std::string& entry) {
+        return runUntil([&] { return std::find(m_log.begin(), m_log.end(), entry) != m_log.end(); });
+    }
+
+    Log m_log;
+};
+
+} // namespace tarnix::testing

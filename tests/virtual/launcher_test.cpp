@@ -1,0 +1,198 @@
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+
+#include "platform/hid.h"
+#include "platform/linux/file_descriptor.h"
+#include "platform/main_loop.h"
+
+extern char** environ;
+
+namespace tarnix {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::Not;
+
+/// A launcher with a program beside it, both writing to one pipe.
+class LauncherProcess {
+  public:
+    LauncherProcess(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), TARNIX_LAUNCHER);
+        std::vector<char*> words;
+        for (std::string& word : arguments)
+            words.push_back(word.data());
+        words.push_back(nullptr);
+        int in[2];
+        int out[2];
+        if (::pipe2(in, O_CLOEXEC) != 0 || ::pipe2(out, O_CLOEXEC) != 0) return;
+        posix_spawn_file_actions_t actions;
+        posix_spawn_file_actions_init(&actions);
+        posix_spawn_file_actions_adddup2(&actions, in[0], STDIN_FILENO);
+        posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
+        ::posix_spawn(&m_pid, words[0], &actions, nullptr, words.data(), environ);
+        posix_spawn_file_actions_destroy(&actions);
+        ::close(in[0]);
+        ::close(out[1]);
+        m_input = FileDescriptor(in[1]);
+        m_output = FileDescriptor(out[0]);
+    }
+    ~LauncherProcess() {
+        if (m_pid > 0) signal(SIGTERM), static_cast<void>(status());
+    }
+    LauncherProcess(const LauncherProcess&) = delete;
+    LauncherProcess& operator=(const LauncherProcess&) = delete;
+
+    void command(const std::string& line) {
+        EXPECT_GT(::write(m_input.get(), (line + '\n').c_str(), line.size() + 1), 0);
+    }
+    void closeInput() { m_input = {}; }
+    void signal(int number) { ::kill(m_pid, number); }
+
+    /// What came since the last call, up to and with the text; the whole rest when the pipe ends first.
+    std::string until(const std::string& text) {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        std::size_t found = 0;
+        while ((found = m_pending.find(text)) == std::string::npos &&
+               std::chrono::steady_clock::now() < deadline) {
+            pollfd wait{m_output.get(), POLLIN, 0};
+            char bytes[4096];
+            if (::poll(&wait, 1, 100) <= 0) continue;
+            const ssize_t length = ::read(m_output.get(), bytes, sizeof bytes);
+            if (length <= 0) return std::exchange(m_pending, {});
+            m_pending.append(bytes, static_cast<std::size_t>(length));
+        }
+        const std::size_t length = found == std::string::npos ? m_pending.size() : found + text.size();
+        const std::string result = m_pending.substr(0, length);
+        m_pending.erase(0, length);
+        return result;
+    }
+    std::string rest() { return until(std::string(1, '\0')); }
+
+    int status() {
+        int status = -1;
+        ::waitpid(std::exchange(m_pid, -1), &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+    }
+
+  private:
+    pid_t m_pid = -1;
+    FileDescriptor m_input;
+    FileDescriptor m_output;
+    std::string m_pending;
+};
+
+class LauncherTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::string pattern = testing::TempDir() + "launcher_test.XXXXXX";
+        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+        folder = pattern;
+        ::setenv("TMPDIR", folder.c_str(), 1);
+    }
+    void TearDown() override {
+        ::unsetenv("TMPDIR");
+        EXPECT_TRUE(fs::is_empty(folder)) << "the mocked system is left behind";
+        fs::remove_all(folder);
+    }
+
+    const std::string self = fs::read_symlink("/proc/self/exe").string();
+    fs::path folder;
+};
+
+TEST_F(LauncherTest, LendsTheKeyboardToAProgramAndEndsWithItsStatus) {
+    LauncherProcess launcher({"--seed-macro", "2 6 Combo x3 04:00 04:80", "--", self, "--probe"});
+    EXPECT_THAT(launcher.until("probe reads"), HasSubstr("set 05 active profile: 3"));
+    launcher.command("emit 0x0A 13");
+    EXPECT_THAT(launcher.until("probe got"), HasSubstr("event 0A"));
+    EXPECT_THAT(launcher.until("\n"), HasSubstr(" 0 10 13 0"));
+    launcher.command("record 1 04:05 04:80");
+    launcher.command("show");
+    const std::string shown = launcher.until("ok show");
+    EXPECT_THAT(shown, HasSubstr("active profile 3\n"));
+    EXPECT_THAT(shown, HasSubstr("profile 2 macro G6 \"Combo\" loops 3 steps 2: 04 00 04 80\n"));
+    EXPECT_THAT(shown, HasSubstr("profile 3 macro G1 unnamed loops 0 steps 2: 04 05 04 80\n"));
+    launcher.command("unplug");
+    EXPECT_THAT(launcher.rest(), HasSubstr("probe lost it"));
+    EXPECT_EQ(launcher.status(), 7);
+}
+
+TEST_F(LauncherTest, AnswersCommandsInOrderAndRefusesBadOnes) {
+    LauncherProcess launcher({"--unplugged", "--", "/bin/sleep", "1000"});
+    for (const char* bad :
+         {"emit 5", "emit 256 0", "emit 0x", "profile 0", "profile 4", "light mode", "light blue 3",
+          "light all 1 2 3", "lock win 2", "record 7", "record 1 04", "record 1 04:100", "seed 1 1",
+          "fail some", "delay -1", "mouse", "wait x", "PLUG", "fail 99999999999"}) {
+        launcher.command(bad);
+        EXPECT_THAT(launcher.until("\n"), testing::Eq("error: " + std::string(bad) + "\n"));
+    }
+    launcher.command("wait 300");
+    launcher.command("# a remark, and an empty line\n");
+    launcher.command("mouse in");
+    launcher.command("plug");
+    launcher.command("lock all 1");
+    launcher.command("quit");
+    const std::string rest = launcher.rest();
+    EXPECT_THAT(rest,
+                testing::MatchesRegex(
+                    "ok wait 300\nok mouse in\nok plug\n[^\n]*event 09[^\n]*\nok lock all 1\nok quit\n"));
+    EXPECT_EQ(launcher.status(), 128 + SIGTERM);
+}
+
+TEST_F(LauncherTest, EndsItsProgramWithItself) {
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        LauncherProcess launcher(
+            {"--", "/bin/sh", "-c", "trap 'exit 3' TERM; echo started; while :; do sleep 0.1; done"});
+        launcher.until("started");
+        launcher.signal(number);
+        EXPECT_EQ(launcher.status(), 3) << number;
+    }
+    LauncherProcess refused({"--unknown", "--", "/bin/true"});
+    EXPECT_EQ(refused.status(), 1) << "an unknown option";
+    LauncherProcess missing({"--", "/nowhere/program"});
+    EXPECT_EQ(missing.status(), 127);
+}
+
+/// The program of the test above: uses the keyboard's two interfaces and says what it sees.
+int probe() {
+    class NoLoop final : public MainLoop {
+        std::unique_ptr<Subscription> watch(int, std::function<void()>) override { return nullptr; }
+        std::unique_ptr<Subscription> after(Milliseconds, std::function<void()>) override { return nullptr; }
+        void post(std::function<void()>) override {}
+    } loop;
+    const auto hid = makeSystemHid(loop);
+    std::unique_ptr<HidDevice> features;
+    std::unique_ptr<HidDevice> events;
+    for (const HidInterface& each : hid->enumerate()) {
+        if (each.usagePage == 0x000B) features = hid->open(each.path);
+        if (each.usagePage == 0x000A) events = hid->open(each.path);
+    }
+    std::vector<std::uint8_t> report{5, 3, 2};
+    if (!features || !events || !features->setFeature(report) || !features->getFeature(report)) return 1;
+    std::printf("probe reads\n");
+    std::fflush(stdout);
+    report.assign(8, 0);
+    while (events->read(report) == HidDevice::ReadResult::Report) {
+        std::printf("probe got %d %d %d %d\n", report[0], report[1], report[2], report[3]);
+        std::fflush(stdout);
+    }
+    std::printf("probe lost it\n");
+    return features->setFeature(report) ? 1 : 7;
+}
+
+} // namespace
+} // namespace tarnix
+
+int main(int argc, char** argv) {
+    if (argc > 1 && std::string(argv[1]) == "--probe") return tarnix::probe();
+    testing::InitGoogleMock(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -57,6 +57,9 @@ void paintConfirmation(Sheet& sheet, const Confirmation& row) {
     });
 }
 
+// The program sets its labels at the top of their rectangles, so the fields around them end where the lines
+// do.
+
 void paintKeyMap(Sheet& sheet) {
     using namespace dialog::keymap;
     sheet.face(background, dialog::wideSize, [](QPainter& p) {
@@ -67,7 +70,7 @@ void paintKeyMap(Sheet& sheet) {
         labelBeside(p, placeOf(controls, keyRadio), QStringLiteral("Keyboard function"));
         labelBeside(p, placeOf(controls, mouseRadio), QStringLiteral("Mouse function"));
         const QRectF value = rectF(placeOf(controls, keyFunction));
-        plate(p, value.adjusted(-1, -3, 1, 3), 5, palette::sagePale, palette::sage);
+        plate(p, value.adjusted(-1, -4, 1, 0), 5, palette::sagePale, palette::sage);
     });
 }
 
@@ -84,7 +87,7 @@ void paintShortcut(Sheet& sheet) {
         const QRectF key = rectF(placeOf(controls, keyName));
         setText(p, QRectF(key.left(), key.top() - 23, 100, 18), QStringLiteral("Key"), Type::Caption,
                 palette::mist, Qt::AlignLeft);
-        paintDarkField(p, key.adjusted(-5, -3, 3, 3));
+        paintDarkField(p, key.adjusted(-5, -3, 3, 1));
     });
 }
 
@@ -95,7 +98,7 @@ void paintQuickLaunch(Sheet& sheet) {
         const QRectF field = rectF(placeOf(controls, path));
         setText(p, QRectF(field.left() - 4, field.top() - 26, 240, 18), QStringLiteral("Program"),
                 Type::Caption, palette::mist, Qt::AlignLeft);
-        paintDarkField(p, field.adjusted(-5, -2, 1, 2));
+        paintDarkField(p, field.adjusted(-5, -2, 1, 0));
         setText(p, QRectF(field.left() - 4, field.bottom() + 14, 260, 18),
                 QStringLiteral("The G-key starts this program."), Type::Caption, palette::mist,
                 Qt::AlignLeft);

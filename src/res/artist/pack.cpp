@@ -73,7 +73,7 @@ bool writeFile(const QString& path, const QByteArray& bytes) {
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
 }
 
-QByteArray indexSource(const QString& rows, const QString& packPath) {
+QByteArray indexSource(const QString& rows, const QString& packPath, qsizetype packSize) {
     QString source;
     QTextStream(&source)
         << "// Made by the artist together with the pack.\n"
@@ -89,7 +89,9 @@ QByteArray indexSource(const QString& rows, const QString& packPath) {
         << packPath
         << "\\\"\\n\"\n"
            "    \".popsection\\n\");\n\n"
-           "extern \"C\" __attribute__((visibility(\"hidden\"))) const unsigned char tarnixArtPack[];\n\n"
+           "extern \"C\" __attribute__((visibility(\"hidden\"))) const unsigned char tarnixArtPack["
+        << packSize
+        << "];\n\n"
            "namespace tarnix {\n\n"
            "namespace {\n\n"
            "constexpr BuiltinImage rows[] = {\n"
@@ -125,7 +127,8 @@ bool writePack(const std::vector<Picture>& pictures, const QString& folder) {
     const QDir target(folder);
     const QString packPath = QDir::cleanPath(target.absoluteFilePath(QStringLiteral("art.pack")));
     return QDir().mkpath(folder) && writeFile(packPath, pack) &&
-           writeFile(target.filePath(QStringLiteral("builtin_images.cpp")), indexSource(rows, packPath));
+           writeFile(target.filePath(QStringLiteral("builtin_images.cpp")),
+                     indexSource(rows, packPath, pack.size()));
 }
 
 bool writeFiles(const std::vector<Picture>& pictures, const QString& folder) {

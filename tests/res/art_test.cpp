@@ -174,6 +174,9 @@ TEST(Art, RegionButtonsLeaveOutWhatLooksLikeTheirGround) {
         }
 }
 
+/// Labels are one line at the top of their rectangles.
+constexpr int labelLineHeight = 16;
+
 TEST(Art, TextsThatTheProgramSetsAreReadableOnTheirGround) {
     for (const Face& face : faces())
         for (const ControlRow& row : face.controls)

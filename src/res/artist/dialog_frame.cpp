@@ -4,7 +4,7 @@ namespace tarnix::art {
 
 void paintDialogFrame(QPainter& p, Size size, const QString& title, double foot, double radius) {
     const QRectF window(0, 0, size.width, size.height);
-    p.fillRect(window, palette::moss);
+    p.fillRect(window, palette::mossDeep);
     QPainterPath inside;
     inside.addRoundedRect(window.adjusted(1, 1, -1, -1), std::max(0.0, radius - 1),
                           std::max(0.0, radius - 1));

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string_view>
 
 #include "platform/geometry.h"
@@ -33,6 +34,9 @@ class Image {
     virtual Size size() const = 0;
     /// The colour at a point, its alpha left out; black outside the picture.
     virtual Color pixel(Point at) const = 0;
+    /// Puts the colours of row `y` into `colors` from the left, each as `pixel` gives it, as many as there
+    /// are.
+    virtual void readRow(int y, std::span<Color> colors) const = 0;
 };
 
 /// How a line of text is set. Height and width 0 leave the choice to the platform.

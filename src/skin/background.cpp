@@ -1,5 +1,6 @@
 #include "skin/background.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
@@ -28,13 +29,15 @@ Color averageColor(const Image& bitmap) {
     std::uint64_t red = 0;
     std::uint64_t green = 0;
     std::uint64_t blue = 0;
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) {
-            const Color color = bitmap.pixel({x, y});
+    std::vector<Color> row(static_cast<std::size_t>(width));
+    for (int y = 0; y < height; ++y) {
+        bitmap.readRow(y, row);
+        for (Color color : row) {
             red += static_cast<std::uint64_t>(redOf(color));
             green += static_cast<std::uint64_t>(greenOf(color));
             blue += static_cast<std::uint64_t>(blueOf(color));
         }
+    }
     const std::uint64_t pixels =
         static_cast<std::uint64_t>(std::max(width, 1)) * static_cast<std::uint64_t>(std::max(height, 1));
     return rgb(static_cast<int>(red / pixels), static_cast<int>(green / pixels),
@@ -44,12 +47,16 @@ Color averageColor(const Image& bitmap) {
 std::vector<Rect> outlineOf(const Image& bitmap) {
     const auto [width, height] = bitmap.size();
     std::vector<Rect> outline;
+    std::vector<Color> row(static_cast<std::size_t>(width));
     for (int y = 0; y < height; ++y) {
-        int start = 0; // of the run of inside pixels that ends before x
-        for (int x = 0; x <= width; ++x) {
-            if (x < width && bitmap.pixel({x, y}) != outsideColor) continue;
-            if (x > start) outline.push_back({start, y, x, y + 1});
-            start = x + 1;
+        bitmap.readRow(y, row);
+        const auto outside = [](Color color) { return color == outsideColor; };
+        for (auto run = row.begin(); run != row.end();) {
+            run = std::find_if_not(run, row.end(), outside);
+            const auto end = std::find_if(run, row.end(), outside);
+            const auto x = [&row](auto place) { return static_cast<int>(place - row.begin()); };
+            if (run != end) outline.push_back({x(run), y, x(end), y + 1});
+            run = end;
         }
     }
     return outline;

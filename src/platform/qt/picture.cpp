@@ -1,6 +1,7 @@
 #include "picture.h"
 
 #include <QPixmap>
+#include <algorithm>
 
 #include "convert.h"
 
@@ -40,14 +41,25 @@ Size Picture::size() const {
 
 Color Picture::pixel(Point at) const {
     Color color = 0;
-    if (at.x >= 0 && at.x < size().width) readColors(at, {&color, 1});
+    if (at.y >= 0 && at.y < size().height && at.x >= 0 && at.x < size().width) readColors(at, {&color, 1});
     return color;
 }
 
 void Picture::readRow(int y, std::span<Color> colors) const {
-    const auto width = static_cast<std::size_t>(size().width);
-    readColors({0, y}, colors.first(std::min(colors.size(), width)));
-    std::fill(colors.begin() + static_cast<std::ptrdiff_t>(std::min(colors.size(), width)), colors.end(), Color{0});
+    const auto wide = std::min(colors.size(), static_cast<std::size_t>(size().width));
+    if (y >= 0 && y < size().height) readColors({0, y}, colors.first(wide));
+}
+
+/// The colours from a point to the right; all of them must lie in the picture.
+void Picture::readColors(Point from, std::span<Color> colors) const {
+    const auto* stored =
+        reinterpret_cast<const QRgb*>(m_pixels.constScanLine(from.y * m_scale)) + from.x * m_scale;
+    const bool opaque = m_pixels.format() == QImage::Format_RGB32;
+    for (Color& color : colors) {
+        const QRgb plain = opaque ? *stored : qUnpremultiply(*stored);
+        color = rgb(qRed(plain), qGreen(plain), qBlue(plain));
+        stored += m_scale;
+    }
 }
 
 Picture::Pixels Picture::pixelsFor(qreal deviceScale) const {

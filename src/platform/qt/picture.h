@@ -35,6 +35,8 @@ class Picture : public Image {
     QImage& paintablePixels();
 
   private:
+    void readColors(Point from, std::span<Color> colors) const;
+
     struct Keyed {
         Color key;
         QImage image;

@@ -6,7 +6,7 @@ packages=(
     # building
     g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libhidapi-dev libudev-dev libxcb1-dev libxcb-xinput-dev
     # the look: a Latin and a Chinese font
-    fonts-dejavu-core fonts-noto-core fonts-wqy-microhei
+    fonts-inter fonts-dejavu-core fonts-wqy-microhei
     # the virtual keyboard
     libumockdev-dev umockdev
     # tests and the tour on a virtual display

@@ -11,10 +11,10 @@ namespace {
 /// From ascender to descender, where the format leaves the height open: the controls' usual 12-pixel letters.
 constexpr int usualHeight = 15;
 
-/// DejaVu Sans is drawn for small sizes on screens and is on every desktop; the Chinese faces are those that
+/// Inter is what the art is set in; DejaVu Sans is on every desktop; the Chinese faces are those that
 /// distributions ship.
 const QStringList& families() {
-    static const QStringList names{"DejaVu Sans", "Noto Sans", "WenQuanYi Micro Hei", "Noto Sans CJK SC",
+    static const QStringList names{"Inter", "DejaVu Sans", "WenQuanYi Micro Hei", "Noto Sans CJK SC",
                                    "sans-serif"};
     return names;
 }

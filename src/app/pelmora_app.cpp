@@ -12,7 +12,7 @@ namespace tarnix {
 
 int CPelmoraApp::InitInstance() {
     const auto shell = makeSystemShell();
-    const auto lock = acquireInstanceLock("Tarnix Keyboard");
+    const auto lock = acquireInstanceLock(programTitle);
     if (!lock) {
         shell->messageBox("you had run one app!");
         return 0;

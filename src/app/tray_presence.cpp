@@ -11,7 +11,7 @@ void TrayPresence::AddTrayIcon(Window& mainWindow) {
     const Image* icon = resources().find(ResourceType::Icon, CDlgBase::iconId);
     if (!icon) return;
     m_icon =
-        makeTrayIcon(*icon, "Tarnix Keyboard",
+        makeTrayIcon(*icon, programTitle,
                      {{"Config Tarnix Keyboard", command::showWindow}, {}, {"Exit", command::exit}},
                      {.activated = [&mainWindow] { mainWindow.bringToFront(); },
                       .selected = [&mainWindow](unsigned chosen) { mainWindow.send(msg::command, chosen); }});

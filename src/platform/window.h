@@ -28,6 +28,9 @@ using LResult = std::intptr_t;
 inline constexpr int IDOK = 1;
 inline constexpr int IDCANCEL = 2;
 
+/// The title of every window; also the name of the lock and the tip of the icon.
+inline constexpr const char* programTitle = "Tarnix Keyboard";
+
 enum class WindowKind {
     Dialog, ///< takes the keyboard; has a taskbar button when its traits say so
     Popup,  ///< a list over its owner; never takes the keyboard; activation is the layer's own affair
@@ -38,7 +41,7 @@ enum class WindowKind {
 struct WindowTraits {
     WindowKind kind = WindowKind::Dialog;
     Window* owner = nullptr; ///< the window it belongs to and stays above
-    std::string role;        ///< the class's name, for the window manager and for tools
+    std::string role = {};   ///< the class's name, for the window manager and for tools
     bool taskbarButton = false;
 };
 
@@ -81,7 +84,6 @@ class Window {
     static Rect workArea();
 
     // Look.
-    void setTitle(const std::string& title);
     void setIcon(const Image& icon);
     void setCursor(Cursor cursor);
     /// The outline as rectangles in client coordinates; pixels outside it are neither painted nor hit.

@@ -8,8 +8,6 @@ namespace tarnix {
 
 namespace {
 
-constexpr const char* programTitle = "Tarnix Keyboard";
-
 const Image* bitmapResource(unsigned id) {
     const Image* bitmap = nullptr;
     LoadPngResource(id, bitmap, ResourceType::Bitmap);
@@ -35,7 +33,6 @@ int CDlgBase::DoModal() {
 void CDlgBase::OnInitDialog() {
     const Image* icon = nullptr;
     if (LoadPngResource(iconId, icon, ResourceType::Icon)) setIcon(*icon);
-    setTitle(programTitle);
     BuildControls(clientRect());
     centre();
 }

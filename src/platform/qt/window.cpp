@@ -51,6 +51,7 @@ bool Window::createWindow(const WindowTraits& traits, const Rect& screenRect) {
     m_native->modalResult.reset();
     auto* widget = new WindowWidget(*this, traits);
     m_native->widget = widget;
+    widget->setWindowTitle(programTitle);
     widget->setWindowRole(QString::fromStdString(traits.role));
     widget->setFixedSize(screenRect.width(), screenRect.height());
     widget->move(screenRect.left, screenRect.top);
@@ -134,10 +135,6 @@ void Window::centre() {
 
 Rect Window::workArea() {
     return fromQt(screenOfMainWindow().availableGeometry());
-}
-
-void Window::setTitle(const std::string& title) {
-    if (exists()) m_native->widget->setWindowTitle(QString::fromStdString(title));
 }
 
 void Window::setIcon(const Image& icon) {

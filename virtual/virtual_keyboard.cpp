@@ -38,7 +38,9 @@ std::vector<std::uint8_t> featureDescriptor() {
                                     0x15, 0x00, 0x26, 0xFF, 0x00, 0x75, 0x08}; // bytes
     for (std::uint8_t id = selectReport::id; id <= macroReport::id; ++id) {
         const auto payload = static_cast<std::uint8_t>(VirtualKeyboard::featureLength(id) - 1);
-        bytes.insert(bytes.end(), {0x85, id, 0x09, id, 0x95, payload, 0xB1, 0x02});
+        for (const std::uint8_t byte :
+             std::array<std::uint8_t, 8>{0x85, id, 0x09, id, 0x95, payload, 0xB1, 0x02})
+            bytes.push_back(byte);
     }
     bytes.push_back(0xC0);
     return bytes;

@@ -86,7 +86,7 @@ class HidTest : public testing::Test {
         return static_cast<std::size_t>(std::distance(Iterator("/proc/self/fd"), Iterator()));
     }
 
-    EchoFunction function;
+    EchoFunction function; ///< the bus's thread's alone
     std::unique_ptr<Bus> bus = makeMockBus();
     std::vector<std::unique_ptr<BusPlug>> plugs;
     HandLoop loop;
@@ -126,24 +126,24 @@ TEST_F(HidTest, CarriesFeatureReportsAndLeavesTheBufferAloneAfterAFailure) {
     // Bytes that a terminal would take for commands go through as they are.
     std::vector<std::uint8_t> report{7, 8, 0x00, 0x03, 0x0A, 0x0D, 0x11, 0xFF};
     EXPECT_TRUE(device->setFeature(report));
-    EXPECT_EQ(function.held, report);
+    onBus([&] { EXPECT_EQ(function.held, report); });
     std::vector<std::uint8_t> answer(8, 0x55);
     answer[0] = 7;
     EXPECT_TRUE(device->getFeature(answer));
     EXPECT_EQ(answer, report);
-    EXPECT_EQ(function.asked, std::pair(std::uint8_t{7}, std::size_t{8}));
+    onBus([&] { EXPECT_EQ(function.asked, std::pair(std::uint8_t{7}, std::size_t{8})); });
 
     const std::vector<std::uint8_t> untouched{7, 1, 2, 3, 4, 5, 6, 7};
     answer = untouched;
-    function.held.resize(5);
+    onBus([&] { function.held.resize(5); });
     EXPECT_FALSE(device->getFeature(answer)) << "a short answer is none";
     EXPECT_EQ(answer, untouched);
-    function.accepts = false;
+    onBus([&] { function.accepts = false; });
     EXPECT_FALSE(device->getFeature(answer));
     EXPECT_FALSE(device->setFeature(report));
     EXPECT_EQ(answer, untouched);
 
-    function.accepts = true;
+    onBus([&] { function.accepts = true; });
     unplugAll();
     EXPECT_FALSE(device->setFeature(report));
     EXPECT_FALSE(device->getFeature(answer));

@@ -10,6 +10,7 @@
 
 #include "platform/linux/launch.h"
 #include "platform/shell.h"
+#include "support/temp_folder.h"
 
 namespace tarnix {
 namespace {
@@ -20,18 +21,14 @@ namespace fs = std::filesystem;
 class InstanceLockTest : public testing::Test {
   protected:
     void SetUp() override {
-        std::string pattern = testing::TempDir() + "instance_lock_test.XXXXXX";
-        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-        folder = pattern;
         fs::create_directory(folder / "run");
         fs::permissions(folder / "run", fs::perms::owner_all);
         ::setenv("XDG_RUNTIME_DIR", (folder / "run").c_str(), 1);
-        ::setenv("TMPDIR", folder.c_str(), 1);
+        ::setenv("TMPDIR", folder.path().c_str(), 1);
     }
     void TearDown() override {
         ::unsetenv("XDG_RUNTIME_DIR");
         ::unsetenv("TMPDIR");
-        fs::remove_all(folder);
     }
 
     /// Whether another process gets the lock.
@@ -43,7 +40,7 @@ class InstanceLockTest : public testing::Test {
         return WEXITSTATUS(status) == 1;
     }
 
-    fs::path folder;
+    TempFolder folder;
 };
 
 TEST_F(InstanceLockTest, IsHeldByOneProcessUntilItLetsGo) {

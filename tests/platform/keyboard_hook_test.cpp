@@ -1,11 +1,18 @@
 #include "platform/keyboard_hook.h"
 
 #include <gmock/gmock.h>
+#include <spawn.h>
+#include <sys/wait.h>
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
 
 #include "platform/window.h"
 #include "support/desktop_driver.h"
+
+extern char** environ;
 
 namespace tarnix::testing {
 namespace {
@@ -35,6 +42,29 @@ class HookedWindow final : public Window {
     std::vector<LParam> times;
     int ownKeys = 0;
 };
+
+/// Presses keys by their X codes and lets time pass, while this process waits.
+void xdotool(std::vector<const char*> words) {
+    words.insert(words.begin(), "xdotool");
+    words.push_back(nullptr);
+    pid_t child = -1;
+    int status = -1;
+    ASSERT_EQ(::posix_spawnp(&child, words[0], nullptr, nullptr, const_cast<char**>(words.data()), environ),
+              0);
+    ::waitpid(child, &status, 0);
+    ASSERT_EQ(status, 0);
+}
+
+/// How often each thread has gone to sleep: once more after every wake-up.
+std::map<std::string, int> sleepsOfThreads() {
+    std::map<std::string, int> sleeps;
+    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::ifstream status(task.path() / "status");
+        for (std::string word; status >> word;)
+            if (word == "voluntary_ctxt_switches:") status >> sleeps[task.path().filename()];
+    }
+    return sleeps;
+}
 
 class KeyboardHookTest : public ::testing::Test {
   protected:
@@ -78,6 +108,30 @@ TEST_F(KeyboardHookTest, PostsEveryKeyOfTheSessionAndKeepsTheWindowFromActing) {
     EXPECT_TRUE(runUntil([&] { return window.ownKeys > 0; }));
     settle();
     EXPECT_THAT(window.keys, IsEmpty());
+}
+
+TEST_F(KeyboardHookTest, PostsAHeldKeyOnceAndTellsTheKeypadAndTheRightSideApart) {
+    hook.StartHook(window);
+    xdotool({"keydown", "62", "sleep", "1", "keyup", "62", "key", "104"});
+    ASSERT_TRUE(runUntil([&] { return window.keys.size() >= 4; }));
+    EXPECT_THAT(window.keys, ElementsAre(std::pair(0xA1u, true), std::pair(0xA1u, false),
+                                         std::pair(0x0Eu, true), std::pair(0x0Eu, false)));
+}
+
+TEST_F(KeyboardHookTest, SleepsBetweenKeysAndLeavesNoThreadBehind) {
+    const auto without = sleepsOfThreads();
+    hook.StartHook(window);
+    xdotool({"sleep", "0.2"});
+    const auto before = sleepsOfThreads();
+    ASSERT_EQ(before.size(), without.size() + 1);
+    xdotool({"sleep", "0.5"});
+    for (const auto& [thread, sleeps] : sleepsOfThreads()) {
+        if (without.count(thread) == 0) {
+            EXPECT_EQ(sleeps, before.at(thread));
+        }
+    }
+    hook.StopHook();
+    EXPECT_EQ(sleepsOfThreads().size(), without.size());
 }
 
 TEST_F(KeyboardHookTest, PostsKeysOnceAfterBeingStartedTwice) {

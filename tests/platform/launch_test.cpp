@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "platform/linux/program_folder.h"
+#include "support/temp_folder.h"
 
 namespace tarnix {
 namespace {
@@ -21,13 +22,6 @@ using testing::IsEmpty;
 
 class LaunchTest : public testing::Test {
   protected:
-    void SetUp() override {
-        std::string pattern = testing::TempDir() + "launch_test.XXXXXX";
-        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-        folder = pattern;
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
     /// An executable of any name that writes its arguments' number and its standard input to a file.
     std::string program(const std::string& name, const std::string& mark) const {
         const fs::path path = folder / name;
@@ -52,7 +46,7 @@ class LaunchTest : public testing::Test {
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    fs::path folder;
+    TempFolder folder;
 };
 
 TEST_F(LaunchTest, StartsAProgramOfAnyNameWithoutAShellOrArguments) {
@@ -73,7 +67,7 @@ TEST_F(LaunchTest, OpensWhatExistsAndIsNoProgram) {
     std::ofstream(folder / "marked.txt") << "text on a file system that marks everything executable";
     fs::permissions(folder / "marked.txt", fs::perms::owner_all);
     for (const std::string& target :
-         {(folder / "letter.txt").string(), (folder / "marked.txt").string(), folder.string(),
+         {(folder / "letter.txt").string(), (folder / "marked.txt").string(), folder.path().string(),
           std::string("http://example.org/a?b=c&d"), std::string("HTTPS://example.org/%20")})
         EXPECT_THAT(opened(target), ElementsAre(target));
 }

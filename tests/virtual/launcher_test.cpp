@@ -12,6 +12,7 @@
 #include "platform/hid.h"
 #include "platform/linux/file_descriptor.h"
 #include "platform/main_loop.h"
+#include "support/temp_folder.h"
 
 extern char** environ;
 
@@ -20,7 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-using testing::Not;
 
 /// A launcher with a program beside it, both writing to one pipe.
 class LauncherProcess {
@@ -92,20 +92,14 @@ class LauncherProcess {
 
 class LauncherTest : public testing::Test {
   protected:
-    void SetUp() override {
-        std::string pattern = testing::TempDir() + "launcher_test.XXXXXX";
-        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-        folder = pattern;
-        ::setenv("TMPDIR", folder.c_str(), 1);
-    }
+    void SetUp() override { ::setenv("TMPDIR", folder.path().c_str(), 1); }
     void TearDown() override {
         ::unsetenv("TMPDIR");
-        EXPECT_TRUE(fs::is_empty(folder)) << "the mocked system is left behind";
-        fs::remove_all(folder);
+        EXPECT_TRUE(fs::is_empty(folder.path())) << "the mocked system is left behind";
     }
 
     const std::string self = fs::read_symlink("/proc/self/exe").string();
-    fs::path folder;
+    TempFolder folder;
 };
 
 TEST_F(LauncherTest, LendsTheKeyboardToAProgramAndEndsWithItsStatus) {

@@ -1,5 +1,5 @@
-# A desktop to try the program on, for the tour and the end-to-end tests. Source it; everything that it starts ends with
-# the shell. Needs bash, Xvfb, openbox, dbus, xdotool, xprop and ImageMagick.
+# A user's hands and eyes for the tour and the end-to-end tests: source it in a bash that runs under
+# tests/support/with_display.sh. What it starts ends with the shell.
 
 desktop=$(mktemp -d)
 desktop_pids=()
@@ -29,24 +29,6 @@ eventually() {
         [ $tries -gt 0 ] || fail "waited in vain for: $*"
         sleep 0.05
     done
-}
-
-# start_desktop [SIZE]: a display of its own with a window manager, a session bus and private folders.
-start_desktop() {
-    export HOME=$desktop/home XDG_RUNTIME_DIR=$desktop/runtime XDG_CONFIG_HOME=$desktop/home/.config
-    mkdir -p "$HOME" "$XDG_CONFIG_HOME"
-    mkdir -m 700 "$XDG_RUNTIME_DIR"
-    Xvfb -displayfd 3 -screen 0 "${1:-1280x800}x24" -nolisten tcp 3> "$desktop/display" 2> /dev/null &
-    desktop_pids+=($!)
-    eventually test -s "$desktop/display"
-    export DISPLAY=:$(cat "$desktop/display")
-    unset WAYLAND_DISPLAY
-    eval "$(dbus-launch --sh-syntax 2> /dev/null || true)"
-    [ -z "${DBUS_SESSION_BUS_PID:-}" ] || desktop_pids+=("$DBUS_SESSION_BUS_PID")
-    xsetroot -solid '#3b4252' 2> /dev/null || true
-    openbox > /dev/null 2>&1 &
-    desktop_pids+=($!)
-    eventually sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q window'
 }
 
 # window ROLE: the identifier of the visible window of that class.
@@ -107,12 +89,13 @@ keyboard() {
     echo "$*" >&7
 }
 
-# end_run: Escape in the main window, and the window is gone.
+# end_run: Escape in the main window, and its process is gone.
 end_run() {
-    local id
+    local id pid
     id=$(window CPelmoraDlg)
+    pid=$(xdotool getwindowpid "$id")
     xdotool windowactivate --sync "$id" key Escape
-    eventually sh -c "! xprop -id $id WM_NAME 2>/dev/null | grep -q ."
+    eventually sh -c "! kill -0 $pid"
 }
 
 # end_program: the last run ends, and with it the virtual keyboard.

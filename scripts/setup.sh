@@ -10,7 +10,7 @@ packages=(
     # the virtual keyboard
     libumockdev-dev umockdev
     # tests and the tour on a virtual display
-    libgtest-dev libgmock-dev xvfb xauth xdotool x11-utils openbox imagemagick dbus procps
+    libgtest-dev libgmock-dev xvfb xauth xdotool x11-utils x11-xserver-utils openbox imagemagick dbus procps
 )
 
 missing=()

@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
 # A short tour on a virtual display with the virtual keyboard, played with real pointer and key input: remap a key, choose
 # a light, apply, restart, see it again. Prints the keyboard's reports and the changed lines of the files as it goes and
-# leaves numbered screenshots in out/.
+# leaves numbered screenshots in out/. With --here it plays on the display that is there.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+if [ "${1:-}" != --here ]; then
+    exec tests/support/with_display.sh --size 1280x800 scripts/tour.sh --here
+fi
 source scripts/desktop.sh
 
 virtual_keyboard=$PWD/build/tarnix-virtual-keyboard
@@ -36,7 +39,6 @@ changed_lines() {
     cp -r "$program/config" "$desktop/before"
 }
 
-start_desktop
 echo "The program starts and reads the keyboard:"
 start_program "$program" 2
 shot main-window

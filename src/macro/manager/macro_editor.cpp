@@ -215,7 +215,7 @@ void MacroEditor::startRecording(MacroKey& macro) {
     m_hook.StartHook(m_window);
     m_recorder.start(macro);
     m_actions->m_nSelected = -1;
-    m_actions->m_nFirstRow = 0;
+    scrollTo(*m_actions, *m_actionScrollBar, 0);
     setRecordingLook(true);
 }
 

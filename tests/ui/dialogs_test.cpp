@@ -1,0 +1,353 @@
+#include <gmock/gmock.h>
+
+#include "platform/shell.h"
+#include "profile/vocabulary.h"
+#include "skin/list_popup.h"
+#include "skin/selection.h"
+#include "support/ui_scenario.h"
+#include "ui/attention_dlg.h"
+#include "ui/dialog_layouts.h"
+#include "ui/edit_profile_dlg.h"
+#include "ui/firmware_reset_dlg.h"
+#include "ui/key_map_setting_dlg.h"
+#include "ui/notices.h"
+#include "ui/quick_launch_dlg.h"
+#include "ui/shortcut_dlg.h"
+
+namespace tarnix {
+namespace {
+
+using namespace dialog;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Notes what the dialogs send their owner.
+class Owner : public CDlgBase {
+  public:
+    Owner() : CDlgBase({.role = "Owner", .taskbarButton = true}, {600, 400}) { Create(); }
+
+    LResult OnMessage(Message message, WParam w, LParam l) override {
+        switch (message) {
+            case 0x42A:
+                note("code " + std::to_string(w) + ' ' + hex(static_cast<std::uint8_t>(l)));
+                break;
+            case 0x40C:
+                note("shortcut " + std::to_string(w) + ' ' + record(l));
+                break;
+            case 0x40F:
+                note("launch " + *Sent<std::string>::find(w) + ' ' + record(l));
+                break;
+            default:
+                break;
+        }
+        return CDlgBase::OnMessage(message, w, l);
+    }
+
+    std::vector<std::string> received;
+
+  protected:
+    void BuildControls(const Rect&) override {}
+
+  private:
+    void note(std::string what) { received.push_back(std::move(what)); }
+    static std::string hex(std::uint8_t byte) {
+        constexpr const char* digits = "0123456789ABCDEF";
+        return {digits[byte >> 4], digits[byte & 15]};
+    }
+    static std::string record(LParam l) {
+        const SelectionRecord* found = receivedSelection(l);
+        if (!found) return "none";
+        return found->text + ' ' + hex(found->bytes[0]) + hex(found->bytes[1]) + hex(found->bytes[2]);
+    }
+};
+
+/// Answers file dialogs with what was prepared.
+class PreparedShell : public Shell {
+  public:
+    void messageBox(const std::string&) override {}
+    std::optional<std::string> openFile(const FileDialog& dialog, Window&) override {
+        asked.push_back(dialog.fileName + ' ' + dialog.filter);
+        return answer;
+    }
+    std::optional<std::string> saveFile(const FileDialog&, Window&) override { return std::nullopt; }
+    void openLink(const std::string&) override {}
+    void launch(const std::string&) override {}
+
+    std::optional<std::string> answer;
+    std::vector<std::string> asked;
+};
+
+/// Plays on the user-interface thread alone: no keys of the X server, no inner dialogs.
+int playSteps(CDlgBase& dialog, const std::function<void()>& steps) {
+    return playIn(dialog, [&](UiScenario& ui) { ui.run(steps); });
+}
+
+void hookEvent(Window& window, unsigned virtualKey, bool released = false) {
+    window.send(0x401, virtualKey, static_cast<LParam>(released ? 0x80000001U : 1U));
+}
+
+const std::string& label(const CDlgBase& window, unsigned id) {
+    return window.control<CStaticText>(id)->m_strLabel;
+}
+
+class Dialogs : public testing::Test {
+  protected:
+    Owner owner;
+    PreparedShell shell;
+};
+
+// Notices and questions.
+
+TEST_F(Dialogs, ANoticeIsOfOneSizeWhateverItSaysAndEnterOrEscapeClosesIt) {
+    for (const std::string_view text : {notices::importFailed, notices::noMacroSet}) {
+        CAttentionDlg dialog(std::string(notices::title), std::string(text));
+        const int result = playIn(dialog, [&](UiScenario& ui) {
+            EXPECT_TRUE(UiScenario::windowShown("CAttentionDlg", {496, 247}));
+            ui.run([&] {
+                EXPECT_EQ(label(dialog, notice::title), "Attention!");
+                EXPECT_EQ(label(dialog, notice::message), text);
+            });
+            UiScenario::keys(text == notices::noMacroSet ? "Escape" : "Return");
+            EXPECT_TRUE(ui.untilOver());
+        });
+        EXPECT_EQ(result, text == notices::noMacroSet ? IDCANCEL : IDOK);
+    }
+    EXPECT_EQ(notices::keyboardGone,
+              "The keyboard is disconnection\xA3\xAC"
+              "Please connect!");
+}
+
+TEST_F(Dialogs, TheResetQuestionIsAnsweredByItsButtonsAndEnterDoesNotAgree) {
+    for (const unsigned button : {okButton, cancelButton, closeButton}) {
+        CFirmwareResetDlg dialog(reset::factoryBackground, &owner);
+        const int result = playIn(dialog, [&](UiScenario& ui) {
+            EXPECT_TRUE(UiScenario::windowShown("CFirmwareResetDlg", {496, 247}));
+            UiScenario::keys("Return");
+            ui.run([&] {
+                EXPECT_TRUE(dialog.isVisible());
+                clickControl(dialog, button);
+            });
+        });
+        EXPECT_EQ(result, button == okButton ? IDOK : IDCANCEL);
+    }
+}
+
+// The key map.
+
+class KeyMap : public Dialogs {
+  protected:
+    /// The key "F1" with a current code; its own is 0xC0.
+    KeyToMap keyWith(std::uint8_t code) const { return {2201, "F1", 0xC0, code}; }
+    static bool mouseSelected() { return (g_nRadioMask & 0x180) == 0x100; }
+    static void choose(CDlgBase& dialog, const SelectionRecord& record) {
+        sendSelection(dialog, 0x414, keymap::mouseField, record);
+    }
+};
+
+TEST_F(KeyMap, ShowsWhatTheKeyDoesNow) {
+    CKeyMapSettingDlg mouse(keyWith(0xD3), &owner);
+    playSteps(mouse, [&] {
+        EXPECT_EQ(mouse.control<CComboButton>(keymap::mouseField)->valueText(), "IE Backward");
+        EXPECT_EQ(label(mouse, keymap::keyFunction), "F1");
+        EXPECT_TRUE(mouseSelected());
+        clickControl(mouse, okButton);
+    });
+    CKeyMapSettingDlg key(keyWith(0x04), &owner);
+    playSteps(key, [&] {
+        EXPECT_EQ(key.control<CComboButton>(keymap::mouseField)->valueText(), "Click");
+        EXPECT_EQ(label(key, keymap::keyFunction), KeyCodeName(0x04));
+        EXPECT_EQ(label(key, keymap::keyName), "F1");
+        EXPECT_FALSE(mouseSelected());
+        clickControl(key, okButton);
+    });
+    CKeyMapSettingDlg cancelled(keyWith(0x04), &owner);
+    playSteps(cancelled, [&] {
+        hookEvent(cancelled, 'B');
+        clickControl(cancelled, cancelButton);
+    });
+    EXPECT_THAT(owner.received, ElementsAre("code 2201 D3", "code 2201 04"));
+}
+
+TEST_F(KeyMap, ReportsTheSelectedSideAlone) {
+    CKeyMapSettingDlg dialog(keyWith(0x04), &owner);
+    playSteps(dialog, [&] {
+        clickControl(dialog, keymap::mouseRadio);
+        choose(dialog, {"Fire", {5, 0, 0, 0}});
+        hookEvent(dialog, 'B');
+        EXPECT_EQ(label(dialog, keymap::keyFunction), VirtualKeyName('B'));
+        EXPECT_TRUE(mouseSelected()) << "a captured key does not move the selection";
+        clickControl(dialog, okButton);
+    });
+    CKeyMapSettingDlg captured(keyWith(0xD5), &owner);
+    playSteps(captured, [&] {
+        clickControl(captured, keymap::keyRadio);
+        hookEvent(captured, 'B');
+        hookEvent(captured, 'B', true);
+        hookEvent(captured, 0);
+        choose(captured, {"Menu", {3, 2, 0, 0}});
+        clickControl(captured, okButton);
+    });
+    CKeyMapSettingDlg own(keyWith(0xD5), &owner);
+    playSteps(own, [&] {
+        hookEvent(own, 'B');
+        clickControl(own, keymap::ownFunction);
+        EXPECT_EQ(label(own, keymap::keyFunction), "F1");
+        EXPECT_FALSE(mouseSelected());
+        clickControl(own, okButton);
+    });
+    EXPECT_THAT(owner.received, ElementsAre("code 2201 D6", "code 2201 05", "code 2201 C0"));
+}
+
+TEST_F(KeyMap, MouseFunctionsComeFromTheirListAndAnUnknownRecordFallsBack) {
+    struct Case {
+        SelectionRecord record;
+        const char* expected;
+    };
+    const Case cases[] = {{{"", {3, 0x01, 0, 0}}, "D0"}, {{"", {3, 0x04, 0, 0}}, "D2"},
+                          {{"", {3, 0x10, 0, 0}}, "D4"}, {{"", {3, 0x03, 0, 0}}, "D0"},
+                          {{"", {4, 0x02, 0, 0}}, "D5"}, {{"", {9, 0x01, 0, 0}}, "D6"}};
+    std::vector<std::string> expected;
+    for (const Case& one : cases) {
+        CKeyMapSettingDlg dialog(keyWith(0xD1), &owner);
+        playSteps(dialog, [&] {
+            dialog.send(0x414, keymap::mouseField, 4711);
+            choose(dialog, one.record);
+            clickControl(dialog, okButton);
+        });
+        expected.push_back(std::string("code 2201 ") + one.expected);
+    }
+    CKeyMapSettingDlg dialog(keyWith(0xD1), &owner);
+    playSteps(dialog, [&] {
+        auto* field = dialog.control<CComboButton>(keymap::mouseField);
+        clickControl(dialog, keymap::mouseField);
+        auto* popup = dynamic_cast<CListPopup*>(dialog.popups().at(PopupPlace::Mouse));
+        ASSERT_NE(popup, nullptr);
+        EXPECT_TRUE(field->m_bOpen);
+        EXPECT_EQ(popup->screenRect().width(), field->m_rect.width());
+        clickAt(*popup, popup->rows().at(4).rect.inset(4).topLeft());
+        EXPECT_EQ(field->valueText(), "IE Forward");
+        EXPECT_FALSE(field->m_bOpen);
+        EXPECT_EQ(dialog.popups().at(PopupPlace::Mouse), nullptr);
+        clickControl(dialog, keymap::mouseField);
+        dialog.send(0x415, keymap::mouseField, 3);
+        EXPECT_FALSE(field->m_bOpen);
+        clickControl(dialog, okButton);
+    });
+    expected.push_back("code 2201 D4");
+    EXPECT_EQ(owner.received, expected);
+}
+
+TEST_F(KeyMap, CapturesTheRealKeyboardAndNoKeyClosesItOrPressesAnything) {
+    CKeyMapSettingDlg dialog(keyWith(0x04), &owner);
+    playIn(dialog, [&](UiScenario& ui) {
+        EXPECT_TRUE(UiScenario::windowShown("CKeyMapSettingDlg", {496, 247}));
+        for (const auto& [key, virtualKey] :
+             {std::pair{"Return", 0x0D}, {"space", 0x20}, {"Tab", 0x09}, {"Escape", 0x1B}}) {
+            UiScenario::keys(key);
+            const std::string name(VirtualKeyName(static_cast<std::uint8_t>(virtualKey)));
+            EXPECT_TRUE(ui.until([&] { return label(dialog, keymap::keyFunction) == name; })) << key;
+        }
+        ui.run([&] {
+            EXPECT_TRUE(dialog.isVisible());
+            clickControl(dialog, okButton);
+        });
+    });
+    EXPECT_THAT(owner.received, ElementsAre("code 2201 29"));
+}
+
+// Shortcuts.
+
+class Shortcut : public Dialogs {
+  protected:
+    /// Checks boxes, presses a key unless that is 0, confirms.
+    void build(std::initializer_list<unsigned> boxes, unsigned virtualKey, Window* reportTo) {
+        CShortcutDlg dialog(reportTo);
+        const int result = playSteps(dialog, [&] {
+            if (virtualKey) hookEvent(dialog, virtualKey);
+            const auto name = VirtualKeyName(static_cast<std::uint8_t>(virtualKey));
+            EXPECT_EQ(label(dialog, shortcut::keyName), virtualKey ? name : "");
+            for (const unsigned box : boxes)
+                clickControl(dialog, box);
+            clickControl(dialog, okButton);
+        });
+        EXPECT_EQ(result, IDCANCEL);
+    }
+};
+
+TEST_F(Shortcut, ReportsModifiersInTheirOrderAndTheKey) {
+    build({shortcut::shift, shortcut::ctrl}, 'A', &owner);
+    build({shortcut::alt}, 0, &owner);
+    build({shortcut::singleKey}, 0x74, &owner);
+    build({shortcut::win, shortcut::alt, shortcut::shift, shortcut::ctrl}, 'Z', &owner);
+    build({shortcut::ctrl, shortcut::singleKey}, 0x74, &owner);
+    build({shortcut::singleKey, shortcut::ctrl}, 0x74, &owner);
+    build({shortcut::ctrl, shortcut::ctrl}, 0, &owner);
+    build({}, 0, &owner);
+    build({shortcut::ctrl}, 'A', nullptr);
+    EXPECT_THAT(owner.received, ElementsAre("shortcut 0 Ctrl+Shift+A 060304", "shortcut 0 Alt 060400",
+                                            "shortcut 0 F5 06003E", "shortcut 0 Ctrl+Shift+Alt+Win+Z 060F1D",
+                                            "shortcut 0 F5 06003E", "shortcut 0 F5 06003E"));
+}
+
+TEST_F(Shortcut, CancelSendsNothingAndNoKeyClosesIt) {
+    CShortcutDlg dialog(&owner);
+    playIn(dialog, [&](UiScenario& ui) {
+        EXPECT_TRUE(UiScenario::windowShown("CShortcutDlg", shortcut::size));
+        UiScenario::keys("Return Escape");
+        const std::string escape(VirtualKeyName(0x1B));
+        EXPECT_TRUE(ui.until([&] { return label(dialog, shortcut::keyName) == escape; }));
+        ui.run([&] {
+            EXPECT_TRUE(dialog.isVisible());
+            clickControl(dialog, cancelButton);
+        });
+    });
+    EXPECT_THAT(owner.received, IsEmpty());
+}
+
+// Programs.
+
+TEST_F(Dialogs, QuickLaunchSendsNameAndPathOnceAProgramIsChosen) {
+    const std::string program = "/opt/my game/run.exe";
+    const auto launchWith = [&](std::initializer_list<std::optional<std::string>> answers,
+                                const std::string& shownPath, unsigned button) {
+        CQuickLaunchDlg dialog(shell, &owner);
+        playSteps(dialog, [&] {
+            for (const auto& answer : answers) {
+                shell.answer = answer;
+                clickControl(dialog, launch::browse);
+            }
+            EXPECT_EQ(label(dialog, launch::path), shownPath);
+            clickControl(dialog, button);
+        });
+    };
+    launchWith({}, "", okButton);
+    launchWith({std::nullopt}, "", okButton);
+    launchWith({program}, program, cancelButton);
+    launchWith({program, std::nullopt}, program, okButton);
+    EXPECT_THAT(owner.received, ElementsAre("launch /opt/my game/run.exe run.exe 070000"));
+    EXPECT_EQ(shell.asked.front(), "ab.exe exe file(*.exe)|*.exe");
+}
+
+TEST_F(Dialogs, TheProfileFormShowsEachProgramBesideItsOwnButton) {
+    CEditProfileDlg dialog(shell, &owner);
+    const int result = playIn(dialog, [&](UiScenario& ui) {
+        EXPECT_TRUE(UiScenario::windowShown("CEditProfileDlg", profile::size));
+        ui.run([&] {
+            shell.answer = "/usr/bin/one";
+            clickControl(dialog, profile::browse1);
+            shell.answer = "/usr/bin/three";
+            clickControl(dialog, profile::browse3);
+            shell.answer.reset();
+            clickControl(dialog, profile::browse3);
+            EXPECT_EQ(label(dialog, profile::path1), "/usr/bin/one");
+            EXPECT_EQ(label(dialog, profile::path2), "");
+            EXPECT_EQ(label(dialog, profile::path3), "/usr/bin/three");
+            clickControl(dialog, okButton);
+        });
+    });
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(shell.asked.front(), ".exe exe file(*.exe)|*.exe");
+}
+
+} // namespace
+} // namespace tarnix

@@ -1,5 +1,4 @@
 // Buttons, labels and tabs: what they send and which frame they show.
-#include "skin/scroll_bar.h"
 #include "skin/static_text.h"
 #include "skin/tab_control.h"
 #include "skin_fixture.h"
@@ -13,30 +12,26 @@ constexpr Point inside{59, 45};    ///< the last pixel that belongs to the contr
 constexpr Point rightEdge{60, 40}; ///< the first ones that do not
 constexpr Point bottomEdge{40, 46};
 
-/// Mouse input as letters: m and o move inside and out, d and u press and release inside, x and y at the
-/// edges outside, D and U inside.
-void feed(CControlBase& control, const char* input) {
-    for (; *input; ++input)
-        switch (*input) {
-            case 'm':
-                control.OnMouseMove(0, inside);
-                break;
-            case 'o':
-                control.OnMouseMove(0, rightEdge);
-                break;
-            case 'd':
-                control.OnLButtonDown(0, inside);
-                break;
-            case 'u':
-                control.OnLButtonUp(0, inside);
-                break;
-            case 'x':
-                control.OnLButtonDown(0, bottomEdge);
-                break;
-            case 'y':
-                control.OnLButtonUp(0, rightEdge);
-                break;
-        }
+/// Mouse input as letters: m moves inside, o outside; d and u press and release inside, x and y outside.
+void feed(CControlBase& control, std::string_view input) {
+    for (char letter : input) {
+        if (letter == 'm') control.OnMouseMove(0, inside);
+        if (letter == 'o') control.OnMouseMove(0, rightEdge);
+        if (letter == 'd') control.OnLButtonDown(0, inside);
+        if (letter == 'x') control.OnLButtonDown(0, bottomEdge);
+        if (letter == 'u') control.OnLButtonUp(0, inside);
+        if (letter == 'y') control.OnLButtonUp(0, rightEdge);
+    }
+}
+
+/// The frames shown at rest, hovered, pressed and after a release outside.
+std::string frames(CControlBase& control) {
+    std::string shown;
+    for (const char* input : {"o", "m", "d", "y"}) {
+        feed(control, input);
+        shown += static_cast<char>('0' + shownFrame(control));
+    }
+    return shown;
 }
 
 class ControlsTest : public SkinTest {
@@ -44,13 +39,14 @@ class ControlsTest : public SkinTest {
     void SetUp() override {
         SkinTest::SetUp();
         g_nRadioMask = 0xAA;
-        for (unsigned frames : {3u, 5u, 7u})
-            pictures.addStrip(strip + frames, static_cast<int>(frames), {20, 8}, 2);
+        g_nMainPage = g_nSubPage = 0;
+        for (int count : {3, 5, 7})
+            pictures.addStrip(strip + static_cast<unsigned>(count), count, {20, 8}, 2);
     }
     template <class T>
-    T& button(unsigned id, unsigned frames) {
+    T& button(unsigned id, unsigned count = 3) {
         T& made = dialog.make<T>(0, id, place);
-        made.LoadImage(strip + frames);
+        made.LoadImage(strip + count);
         return made;
     }
     CComboButton& combo() {
@@ -61,20 +57,15 @@ class ControlsTest : public SkinTest {
 };
 
 TEST_F(ControlsTest, ClickNeedsOnlyAReleaseInsideAndLeavingCancelsAPress) {
-    struct Kind {
-        CControlBase* control;
-        Notice down;
-        Notice click;
-    };
-    const Kind kinds[] = {
-        {&button<CImageButton>(2001, 3), {2001, 0, 1}, {2001, 0, 2}},
+    const std::tuple<CControlBase*, Notice, Notice> kinds[] = {
+        {&button<CImageButton>(2001), {2001, 0, 1}, {2001, 0, 2}},
         {&button<CCheckButton>(2112, 7), {2112, 0, 1}, {2112, 0, 2}},
-        {&button<CRadioButton>(2006, 3), {2006, 0, 1}, {2006, 0, 2}},
-        {&button<CKeyboardButton>(2200, 3), {2200, 0, 1}, {2200, 2200, 2}},
+        {&button<CRadioButton>(2006), {2006, 0, 1}, {2006, 0, 2}},
+        {&button<CKeyboardButton>(2200), {2200, 0, 1}, {2200, 2200, 2}},
         {&combo(), {2078, 0, 1}, {0x404, 2078, 2}},
         {&dialog.make<CRegionButton>(0, 2010u, place), {2010, 0, 1}, {2010, 0, 2}},
         {&dialog.make<CStaticText>(0, 2015u, place, Color{0}, 0u), {2015, 0, 1}, {2015, 0, 2}},
-        {&button<CTabControl>(2003, 3), {2003, 0, 1}, {2003, 0, 2}},
+        {&button<CTabControl>(2003), {2003, 0, 1}, {2003, 0, 2}},
     };
     for (const auto& [control, down, click] : kinds) {
         const std::pair<const char*, Notices> cases[] = {
@@ -94,18 +85,6 @@ TEST_F(ControlsTest, ClickNeedsOnlyAReleaseInsideAndLeavingCancelsAPress) {
 
 TEST_F(ControlsTest, FrameFollowsMouseAndFlags) {
     auto& check = button<CCheckButton>(2112, 7);
-    auto& radio = button<CRadioButton>(2010, 3);
-    auto& other = button<CRadioButton>(2020, 3);
-    auto& key = button<CKeyboardButton>(2200, 3);
-    auto& field = combo();
-    const auto frames = [](CControlBase& control) {
-        std::string shown;
-        for (const char* input : {"o", "m", "d", "y"}) {
-            feed(control, input);
-            shown += static_cast<char>('0' + shownFrame(control));
-        }
-        return shown;
-    };
     EXPECT_EQ(frames(check), "0120");
     feed(check, "u");
     EXPECT_EQ(frames(check), "3453");
@@ -115,61 +94,36 @@ TEST_F(ControlsTest, FrameFollowsMouseAndFlags) {
     check.m_bDisabled = false;
     EXPECT_EQ(shownFrame(check), 3);
 
-    EXPECT_EQ(frames(radio), "0120");
-    EXPECT_EQ(frames(other), "0120");
-    feed(radio, "u");
-    EXPECT_EQ(frames(radio), "2222");
-    feed(other, "u");
-    EXPECT_EQ(frames(other), "0120");
-
+    auto& key = button<CKeyboardButton>(2200);
     key.SetKey("Esc", 0xF5, 0xF5);
     EXPECT_EQ(frames(key), "0120");
     key.SetCurrentCode(0x04);
     EXPECT_EQ(frames(key), "2122");
 
+    auto& field = combo();
     EXPECT_EQ(frames(field), "0120");
     field.m_bOpen = true;
     EXPECT_EQ(frames(field), "1111");
     field.m_bInactive = true;
+    dialog.take();
     EXPECT_EQ(frames(field), "3443");
+    feed(field, "mdu");
+    EXPECT_EQ(dialog.take(), Notices{}) << "an inactive field sends nothing";
 }
 
 TEST_F(ControlsTest, RadioChoiceIsSharedByAllWindowsAndClearsItsGroupAlone) {
     TestDialog elsewhere;
     CRadioButton twin(elsewhere, 2010, place);
     twin.LoadImage(strip + 3);
-    EXPECT_EQ(shownFrame(twin), 0);
-    feed(button<CRadioButton>(2010, 3), "du");
-    EXPECT_EQ(g_nRadioMask, 0xB2u);
-    EXPECT_EQ(shownFrame(twin), 2);
-    feed(button<CRadioButton>(2008, 3), "du");
-    EXPECT_EQ(g_nRadioMask, 0xB4u);
-    feed(button<CRadioButton>(2014, 3), "du");
-    EXPECT_EQ(g_nRadioMask, 0x134u);
-    for (unsigned id : {2005u, 2015u, 2060u})
-        feed(button<CRadioButton>(id, 3), "du");
-    EXPECT_EQ(g_nRadioMask, 0x134u);
-}
-
-TEST_F(ControlsTest, InactiveFieldSendsNothingAndItsTextIsTheValueOrDisable) {
-    auto& field = combo();
-    const auto ink = [&field] {
-        const auto surface = painted(field);
-        int pixels = 0;
-        for (int y = place.top; y < place.bottom; ++y)
-            for (int x = place.left; x < place.right; ++x)
-                pixels += surface->image().pixel({x, y}) != frameColor(0);
-        return pixels;
-    };
-    EXPECT_EQ(ink(), 0);
-    field.SetValueText("II");
-    const int value = ink();
-    EXPECT_GT(value, 0);
-    field.m_bDisable = true;
-    EXPECT_GT(ink(), value);
-    field.m_bInactive = true;
-    feed(field, "mdu");
-    EXPECT_EQ(dialog.take(), Notices{});
+    EXPECT_EQ(frames(twin), "0120");
+    const std::pair<unsigned, std::uint32_t> clicks[] = {
+        {2010, 0xB2}, {2008, 0xB4}, {2014, 0x134}, {2005, 0x134}, {2015, 0x134}};
+    for (const auto& [id, mask] : clicks) {
+        feed(button<CRadioButton>(id), "du");
+        EXPECT_EQ(g_nRadioMask, mask) << id;
+    }
+    EXPECT_EQ(frames(twin), "2222");
+    EXPECT_EQ(frames(button<CRadioButton>(2015)), "0120") << "a button without a group is never selected";
 }
 
 TEST_F(ControlsTest, LinkTellsOfEnterAndLeaveButNotWhilePressed) {
@@ -184,76 +138,63 @@ TEST_F(ControlsTest, LinkTellsOfEnterAndLeaveButNotWhilePressed) {
 }
 
 TEST_F(ControlsTest, StripStretchesItsFramesAndNeverShowsColumnsThatAreLeftOver) {
-    auto& button3 = button<CImageButton>(2001, 3);
-    feed(button3, "d");
-    const auto surface = painted(button3);
+    auto& pressed = button<CImageButton>(2001);
+    feed(pressed, "d");
+    const auto surface = painted(pressed);
     for (Point at : {place.topLeft(), Point{59, 30}, Point{20, 45}, inside})
         EXPECT_EQ(surface->image().pixel(at), frameColor(2)) << at.x << ',' << at.y;
     for (Point at : {rightEdge, bottomEdge, Point{19, 40}})
         EXPECT_EQ(surface->image().pixel(at), 0u);
-
     CImageButton without(dialog, 2002, place);
     EXPECT_FALSE(without.LoadImage(strip));
     EXPECT_EQ(painted(without)->image().pixel(inside), 0u);
-    feed(without, "du");
-    EXPECT_EQ(dialog.take().size(), 3u) << "a button without a picture still answers the mouse";
 }
 
 TEST_F(ControlsTest, RegionButtonCopiesItsFrameUnstretchedAndLeavesTheKeyColourOut) {
-    constexpr Color key = 0x112233;
     Canvas& bitmap = pictures.add(ResourceType::Bitmap, 387, {30, 8});
-    bitmap.fill({0, 0, 30, 8}, key);
+    bitmap.fill({0, 0, 30, 8}, 0x112233);
     for (int i = 0; i < 3; ++i)
         bitmap.fill(Rect::at(i * 10 + 2, 2, 6, 4), frameColor(i));
     auto& region = dialog.make<CRegionButton>(0, 2004u, place);
     region.m_region = {0x10000 + 387, 0, 0, 7, 10, 8};
     feed(region, "m");
     const auto surface = painted(region);
-    EXPECT_EQ(surface->image().pixel({22, 32}), frameColor(1));
-    EXPECT_EQ(surface->image().pixel({27, 35}), frameColor(1));
+    for (Point at : {Point{22, 32}, Point{27, 35}})
+        EXPECT_EQ(surface->image().pixel(at), frameColor(1));
     for (Point at : {Point{21, 32}, Point{28, 32}, Point{22, 36}, Point{32, 32}})
         EXPECT_EQ(surface->image().pixel(at), 0u) << at.x << ',' << at.y;
-    region.m_region = {387, 0, -5, 900, 0, 8};
-    painted(region);
 }
 
 TEST_F(ControlsTest, TabSelectsItsPageBeforeItNotifiesAndShowsItEverywhere) {
-    g_nMainPage = g_nSubPage = 0;
-    auto& page = button<CTabControl>(2005, 3);
-    auto& profile = button<CTabControl>(2051, 3);
-    auto& plain = button<CTabControl>(2100, 3);
     int pageAtNotice = -1;
     dialog.m_messages.onClick(2005, [&] { pageAtNotice = g_nMainPage; });
-    feed(page, "duo");
-    feed(profile, "duo");
-    feed(plain, "duo");
+    feed(button<CTabControl>(2005), "duo");
     EXPECT_EQ(pageAtNotice, 2);
-    EXPECT_EQ(g_nMainPage, 2);
+    EXPECT_EQ(frames(button<CTabControl>(2005)), "2222");
+    EXPECT_EQ(frames(button<CTabControl>(2003)), "0120");
+    feed(button<CTabControl>(2051), "duo");
     EXPECT_EQ(DisplayedProfile, 2) << "the selected profile tab is the shown profile";
-    EXPECT_EQ(shownFrame(page), 2);
-    EXPECT_EQ(shownFrame(plain), 0);
     DisplayedProfile = 1;
-    EXPECT_EQ(shownFrame(profile), 0);
-    DisplayedProfile = g_nMainPage = 0;
+    EXPECT_EQ(frames(button<CTabControl>(2051)), "0120");
 }
 
-TEST_F(ControlsTest, LabelPlacesItsLineByItsFormat) {
-    auto& label =
-        dialog.make<CStaticText>(0, 2015u, Rect::at(0, 0, 200, 60), rgb(255, 255, 255),
-                                 CStaticText::formatCentred | CStaticText::formatVerticalCentred, "caption");
-    const auto leftmost = [](CStaticText& text) {
-        const auto surface = painted(text);
-        for (int x = 0; x < 200; ++x)
-            for (int y = 0; y < 60; ++y)
-                if (surface->image().pixel({x, y}) != 0) return x;
-        return 200;
+TEST_F(ControlsTest, TextsAreTheOwnersAndStandByTheirFormat) {
+    const auto leftmostInk = [](CControlBase& control, Color ground) {
+        const auto surface = painted(control);
+        for (int x = place.left; x < place.right; ++x)
+            for (int y = place.top; y < place.bottom; ++y)
+                if (surface->image().pixel({x, y}) != ground) return x - place.left;
+        return -1;
     };
-    EXPECT_EQ(leftmost(label), 200) << "the caption is not drawn";
-    label.m_strLabel = "mm";
-    EXPECT_GT(leftmost(label), 60);
-    CStaticText left(dialog, 2016, Rect::at(0, 0, 200, 60), rgb(255, 255, 255), CStaticText::formatLeftTop);
-    left.m_strLabel = "mm";
-    EXPECT_LT(leftmost(left), 10);
+    auto& label =
+        dialog.make<CStaticText>(0, 2015u, place, Color{0xFFFFFF}, CStaticText::formatCentred, "caption");
+    EXPECT_EQ(leftmostInk(label, 0), -1) << "the caption is not drawn";
+    label.m_strLabel = "i";
+    EXPECT_GT(leftmostInk(label, 0), 10);
+    auto& field = combo();
+    EXPECT_EQ(leftmostInk(field, frameColor(0)), -1);
+    field.m_bDisable = true;
+    EXPECT_GE(leftmostInk(field, frameColor(0)), 4);
 }
 
 } // namespace

@@ -83,25 +83,6 @@ TEST_F(ScrollBarTest, DragTellsOnlyNewPositionsAndStopsAtTheEndsOfTheTrack) {
     EXPECT_EQ(dialog.take(), Notices{});
 }
 
-TEST_F(ScrollBarTest, PartUnderThePointerIsLit) {
-    bar->SetScrollState(50, 10, 100);
-    const auto colors = [this] {
-        const auto surface = painted(*bar);
-        const Image& image = surface->image();
-        return std::array{image.pixel({12, 4}), image.pixel({12, 225}), image.pixel({10, 125}),
-                          image.pixel({15, 125})};
-    };
-    const Color plain = frameColor(0);
-    const Color lit = frameColor(1);
-    EXPECT_EQ(colors(), (std::array{plain, plain, Color{0x1F1F1F}, Color{0x508376}}));
-    EXPECT_TRUE(bar->OnMouseMove(0, {20, 5}));
-    EXPECT_EQ(colors(), (std::array{lit, plain, Color{0x1F1F1F}, Color{0x508376}}));
-    EXPECT_TRUE(bar->OnMouseMove(0, {20, 125}));
-    EXPECT_EQ(colors(), (std::array{plain, plain, Color{0x00FF00}, Color{0x68A294}}));
-    EXPECT_FALSE(bar->OnMouseMove(0, {20, 126}));
-    EXPECT_TRUE(bar->OnMouseMove(0, {20, 400}));
-}
-
 class ListsTest : public SkinTest {
   protected:
     void SetUp() override {

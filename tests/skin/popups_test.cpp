@@ -56,56 +56,34 @@ class PopupsTest : public SkinTest {
     std::vector<Answer> answers;
 };
 
-TEST_F(PopupsTest, ListIsAsWideAsItsClassAndAsHighAsItsRows) {
+TEST_F(PopupsTest, ListHasTheSizeOfItsRowsAndTellsOfALossOfActivationUntilItIsLetGo) {
     MacroLibrary empty;
-    const struct {
-        CListPopup& popup;
-        unsigned kind;
-        Size size;
-    } cases[] = {
-        {open<CComboPopup>(PopupPlace::Category), 0, {169, 134}},
-        {open<CProfilePopup>(PopupPlace::Multimedia), 1, {158, 134}},
-        {open<CDPIPopup>(PopupPlace::Web), 2, {158, 166}},
-        {open<CMultimediaPopup>(PopupPlace::Mouse), 3, {169, 118}},
-        {open(PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(library)), 4, {158, 38}},
-        {open(PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library)), 5, {194, 74}},
-        {open<CLightModePopup>(PopupPlace::LightMode), 9, {169, 262}},
-        {open<CLightBrightnessPopup>(PopupPlace::LightBrightness), 8, {169, 86}},
-        {open<CLightSpeedPopup>(PopupPlace::LightSpeed), 10, {169, 54}},
-    };
-    for (const auto& [popup, kind, size] : cases) {
-        EXPECT_EQ(popup.kind(), kind);
-        EXPECT_EQ(popup.clientRect().size(), size) << kind;
-    }
-    EXPECT_EQ(
-        open(PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(empty)).clientRect().height(),
-        10);
-    EXPECT_EQ(CMacroSetPopup(library, 7).kind(), 107u);
-}
-
-TEST_F(PopupsTest, LossOfActivationTellsTheOwnerOnceAndLeavesThePopupOpen) {
-    const struct {
+    struct Case {
         PopupPlace place;
         std::unique_ptr<CListPopup> popup;
-        Notice expected;
-    } cases[] = {
-        {PopupPlace::Category, std::make_unique<CComboPopup>(), {1029, tag, 0}},
-        {PopupPlace::Multimedia, std::make_unique<CProfilePopup>(), {1032, tag, 1}},
-        {PopupPlace::Web, std::make_unique<CDPIPopup>(), {1042, tag, 2}},
-        {PopupPlace::Mouse, std::make_unique<CMultimediaPopup>(), {1045, tag, 3}},
-        {PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(library), {1047, tag, 4}},
-        {PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library), {1055, tag, 5}},
-        {PopupPlace::LightBrightness, std::make_unique<CLightBrightnessPopup>(), {1064, tag, 8}},
-        {PopupPlace::LightMode, std::make_unique<CLightModePopup>(), {1069, tag, 9}},
-        {PopupPlace::LightSpeed, std::make_unique<CLightSpeedPopup>(), {1072, tag, 10}},
-        {PopupPlace::LightSpeed, std::make_unique<CMacroSetPopup>(library, 3), {1050, tag, 103}},
+        Size size;
+        Notice lost;
     };
-    for (auto& [place, popup, expected] : cases) {
-        CListPopup& opened = open(place, std::move(const_cast<std::unique_ptr<CListPopup>&>(popup)));
+    Case cases[] = {
+        {PopupPlace::Category, std::make_unique<CComboPopup>(), {169, 134}, {1029, tag, 0}},
+        {PopupPlace::Multimedia, std::make_unique<CProfilePopup>(), {158, 134}, {1032, tag, 1}},
+        {PopupPlace::Web, std::make_unique<CDPIPopup>(), {158, 166}, {1042, tag, 2}},
+        {PopupPlace::Mouse, std::make_unique<CMultimediaPopup>(), {169, 118}, {1045, tag, 3}},
+        {PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(library), {158, 38}, {1047, tag, 4}},
+        {PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(empty), {158, 10}, {1047, tag, 4}},
+        {PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library), {194, 74}, {1055, tag, 5}},
+        {PopupPlace::LightBrightness, std::make_unique<CLightBrightnessPopup>(), {169, 86}, {1064, tag, 8}},
+        {PopupPlace::LightMode, std::make_unique<CLightModePopup>(), {169, 262}, {1069, tag, 9}},
+        {PopupPlace::LightSpeed, std::make_unique<CLightSpeedPopup>(), {169, 54}, {1072, tag, 10}},
+        {PopupPlace::LightSpeed, std::make_unique<CMacroSetPopup>(library, 3), {158, 22}, {1050, tag, 103}},
+    };
+    for (auto& [place, popup, size, lost] : cases) {
+        CListPopup& opened = open(place, std::move(popup));
+        EXPECT_EQ(opened.clientRect().size(), size) << lost;
         opened.OnActivate(false);
-        EXPECT_EQ(dialog.take(), Notices{expected});
-        EXPECT_TRUE(opened.exists());
+        EXPECT_EQ(dialog.take(), Notices{lost});
         EXPECT_EQ(dialog.popups().at(place), &opened);
+        EXPECT_TRUE(opened.exists());
         dialog.popups().close(place);
         EXPECT_EQ(dialog.popups().at(place), nullptr);
         opened.OnActivate(false);
@@ -252,19 +230,13 @@ TEST_F(PopupsTest, FaceHasABorderRowsAHighlightAndArrows) {
     popup.OnMouseMove(0, middle(popup, 1));
     const auto surface = makeSurface({169, 134});
     popup.OnPaint(surface->canvas(), {0, 0, 169, 134});
-    const Image& face = surface->image();
-    EXPECT_EQ(face.pixel({0, 0}), 0x6BD2B9u);
-    EXPECT_EQ(face.pixel({168, 133}), 0x6BD2B9u);
-    EXPECT_EQ(face.pixel({1, 1}), 0x80ACA1u);
-    EXPECT_EQ(face.pixel({3, 19}), 0xDEA035u);
-    EXPECT_EQ(face.pixel({165, 34}), 0xDEA035u);
-    EXPECT_EQ(face.pixel({3, 35}), 0x80ACA1u);
-    for (const auto& [x, first, last] : {std::tuple{160, 6, 12}, {161, 7, 11}, {162, 8, 10}, {163, 9, 9}}) {
-        for (int y = first; y <= last; ++y)
-            EXPECT_EQ(face.pixel({x, y}), 0xFFFFFFu) << x << ',' << y;
-        EXPECT_EQ(face.pixel({x, last + 1}), 0x80ACA1u);
-    }
-    EXPECT_EQ(face.pixel({160, 6 + 4 * 16}), 0x80ACA1u) << "no arrow without a sub-list";
+    const std::pair<Point, Color> pixels[] = {
+        {{0, 0}, 0x6BD2B9},    {{168, 133}, 0x6BD2B9}, {{1, 1}, 0x80ACA1},    {{3, 19}, 0xDEA035},
+        {{165, 34}, 0xDEA035}, {{3, 35}, 0x80ACA1},    {{160, 12}, 0xFFFFFF}, {{160, 13}, 0x80ACA1},
+        {{163, 9}, 0xFFFFFF},  {{163, 10}, 0x80ACA1},  {{160, 73}, 0x80ACA1}, // no arrow without a sub-list
+    };
+    for (const auto& [at, color] : pixels)
+        EXPECT_EQ(surface->image().pixel(at), color) << at.x << ',' << at.y;
 }
 
 } // namespace

@@ -1,33 +1,8 @@
 #include "skin_fixture.h"
 
-#include "platform/application.h"
 #include "skin/wnd_popup.h"
 
 namespace tarnix {
-
-namespace {
-
-constexpr unsigned stepTimer = 7;
-constexpr int stepInterval = 5;
-constexpr int stepLimit = 2000; ///< ticks that a step may take
-
-class Desktop : public ::testing::Environment {
-  public:
-    void SetUp() override {
-        static char name[] = "skin_test";
-        static char* arguments[] = {name, nullptr};
-        static int count = 1;
-        m_application = std::make_unique<Application>(count, arguments);
-    }
-    void TearDown() override { m_application.reset(); }
-
-  private:
-    std::unique_ptr<Application> m_application;
-};
-
-[[maybe_unused]] const auto* const desktop = ::testing::AddGlobalTestEnvironment(new Desktop);
-
-} // namespace
 
 std::ostream& operator<<(std::ostream& out, const Notice& notice) {
     return out << '(' << notice.message << ", " << notice.w << ", " << notice.l << ')';
@@ -41,25 +16,6 @@ LResult TestDialog::OnMessage(Message message, WParam w, LParam l) {
 void TestDialog::OnPaint(Canvas& canvas, const Rect& dirty) {
     paints.push_back(dirty);
     CDlgBase::OnPaint(canvas, dirty);
-}
-
-std::size_t TestDialog::run(std::vector<Step> steps) {
-    m_steps = std::move(steps);
-    m_step = 0;
-    startTimer(stepTimer, stepInterval);
-    m_ticks = -1;
-    runModal();
-    return m_step;
-}
-
-void TestDialog::OnTimer(unsigned id) {
-    if (id != stepTimer) return;
-    if (m_ticks++ < 0) return m_steps[m_step].act();
-    if (m_ticks > stepLimit) return endModal(IDCANCEL);
-    if (!m_steps[m_step].done()) return;
-    m_ticks = 0;
-    if (++m_step == m_steps.size()) return endModal(IDOK);
-    m_steps[m_step].act();
 }
 
 void TestResources::addStrip(unsigned id, int frames, Size frame, int leftoverColumns) {
@@ -98,6 +54,14 @@ int shownFrame(CControlBase& control) {
 void SkinTest::SetUp() {
     ASSERT_TRUE(dialog.Create());
     dialog.take();
+}
+
+void SkinTest::showDialog() {
+    testing::movePointer({0, 0});
+    dialog.show();
+    ASSERT_TRUE(testing::runUntil([this] { return !dialog.paints.empty(); }));
+    testing::settle();
+    dialog.takePaints();
 }
 
 } // namespace tarnix

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <ostream>
@@ -12,6 +11,7 @@
 
 #include "platform/resources.h"
 #include "skin/dlg_base.h"
+#include "support/desktop_driver.h"
 
 namespace tarnix {
 
@@ -43,17 +43,8 @@ class TestDialog : public CDlgBase {
     Notices take() { return std::exchange(notices, {}); }
     std::vector<Rect> takePaints() { return std::exchange(paints, {}); }
 
-    /// A step of a script: what to do, and what must then come about before the next one.
-    struct Step {
-        std::function<void()> act;
-        std::function<bool()> done;
-    };
-    /// Runs the window modally, step by step. The answer is the number of steps that came about.
-    std::size_t run(std::vector<Step> steps);
-
     LResult OnMessage(Message message, WParam w, LParam l) override;
     void OnPaint(Canvas& canvas, const Rect& dirty) override;
-    void OnTimer(unsigned id) override;
 
     Notices notices;
     std::vector<Rect> paints;
@@ -62,11 +53,6 @@ class TestDialog : public CDlgBase {
   protected:
     void BuildControls(const Rect&) override {}
     void OnCancel() override { ++cancels; }
-
-  private:
-    std::vector<Step> m_steps;
-    std::size_t m_step = 0;
-    int m_ticks = 0;
 };
 
 /// Pictures made by the test.
@@ -98,6 +84,8 @@ int shownFrame(CControlBase& control);
 class SkinTest : public ::testing::Test {
   protected:
     void SetUp() override;
+    /// Shows the dialog, the pointer outside it, and waits until it has been painted.
+    void showDialog();
 
     TestResources pictures;
     TestDialog dialog;

@@ -1,0 +1,154 @@
+#include <gmock/gmock.h>
+
+#include "main_window_bench.h"
+#include "skin/selection.h"
+#include "ui/dialog_layouts.h"
+
+namespace tarnix {
+namespace {
+
+using tarnix::testing::runUntil;
+using tarnix::testing::settle;
+
+/// Rows of the function menu.
+constexpr std::size_t macroRow = 0;
+constexpr std::size_t multimediaRow = 1;
+constexpr std::size_t webRow = 2;
+constexpr std::size_t mouseRow = 3;
+constexpr std::size_t defaultRow = 4;
+constexpr std::size_t noFunctionRow = 7;
+
+class GKeyPage : public ::testing::Test {
+  public:
+    /// Runs a scenario on the G-key page.
+    void run(const std::function<void()>& scenario) {
+        bench.run([&] {
+            AddMacroKey(bench.macros.sets[0], "Fire");
+            AddMacroKey(bench.macros.sets[0], "Tap");
+            g_nMainPage = 2;
+            bench.window->send(id::gKeyPageTab, 0, NOTIFY_CLICK);
+            scenario();
+        });
+    }
+
+    void openMenu(unsigned field) {
+        bench.click(field);
+        settle();
+        ASSERT_TRUE(bench.isOpen(PopupPlace::Category));
+        EXPECT_TRUE(bench.field(field).m_bOpen);
+    }
+    void expectClosed(unsigned field) {
+        EXPECT_FALSE(bench.window->popups().any());
+        EXPECT_FALSE(bench.field(field).m_bOpen);
+    }
+    bool marked(int row) { return bench.window->link().pending().isMarked(row, 0); }
+    const GKeySlot& slot(int n) { return *bench.store.GetGKeySlot(0, n); }
+
+    MainWindowBench bench;
+};
+
+TEST_F(GKeyPage, AFunctionFromAListBesideTheMenuIsStoredUnderItsName) {
+    run([&] {
+        const struct {
+            unsigned field;
+            int slot;
+            std::size_t menuRow;
+            PopupPlace place;
+            std::size_t row;
+            const char* name;
+            KeyAssignment value;
+        } choices[] = {
+            {id::gKeyField1, 0, multimediaRow, PopupPlace::Multimedia, 7, "Stop", {2, 0xA7, 0}},
+            {id::gKeyField2, 1, webRow, PopupPlace::Web, 0, "WWW Search", {2, 0xA8, 0}},
+            {id::gKeyField3, 2, mouseRow, PopupPlace::Mouse, 6, "Fire", {5, 0, 0}},
+            {id::gKeyField4, 3, mouseRow, PopupPlace::Mouse, 1, "Menu", {3, 2, 0}},
+            {id::gKeyField5, 4, macroRow, PopupPlace::MacroLibrary, 1, "Tap", {1, 0, 0}},
+        };
+        for (const auto& choice : choices) {
+            bench.store.SetGKeyUrl(0, choice.slot, "/old");
+            openMenu(choice.field);
+            bench.point(PopupPlace::Category, choice.menuRow);
+            ASSERT_TRUE(bench.isOpen(choice.place)) << choice.name;
+            EXPECT_TRUE(bench.isOpen(PopupPlace::Category));
+            bench.choose(choice.place, choice.row);
+            expectClosed(choice.field);
+            EXPECT_EQ(bench.field(choice.field).valueText(), choice.name);
+            EXPECT_EQ(slot(choice.slot), (GKeySlot{choice.name, "", choice.value}));
+        }
+        EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
+        for (int row = PendingWrites::firstMacroRow; row < PendingWrites::rowCount; ++row)
+            EXPECT_EQ(marked(row), row == 6) << row;
+        bench.click(id::applyButton);
+        EXPECT_EQ(bench.keyboard.profiles[0].gKeys[12], 1);
+        EXPECT_EQ(bench.keyboard.profiles[0].macros[4].name, "Tap");
+    });
+}
+
+TEST_F(GKeyPage, TheMenusOwnFunctionsNeedNoList) {
+    run([&] {
+        openMenu(id::gKeyField4);
+        bench.choose(PopupPlace::Category, noFunctionRow);
+        expectClosed(id::gKeyField4);
+        EXPECT_EQ(slot(3), (GKeySlot{"No Function", "", {0, 0, 0}}));
+        openMenu(id::gKeyField4);
+        bench.choose(PopupPlace::Category, defaultRow);
+        EXPECT_EQ(slot(3), (GKeySlot{"CTRL+4", "", {6, 1, 0x21}}));
+        EXPECT_EQ(bench.field(id::gKeyField4).valueText(), "CTRL+4");
+    });
+}
+
+TEST_F(GKeyPage, TheMenuLivesAsLongAsItOrAListBesideItIsActive) {
+    run([&] {
+        openMenu(id::gKeyField1);
+        bench.point(PopupPlace::Category, multimediaRow);
+        bench.point(PopupPlace::Category, webRow);
+        EXPECT_FALSE(bench.isOpen(PopupPlace::Multimedia));
+        EXPECT_TRUE(bench.isOpen(PopupPlace::Web));
+        bench.point(PopupPlace::Category, defaultRow);
+        EXPECT_FALSE(bench.isOpen(PopupPlace::Web));
+        EXPECT_TRUE(bench.isOpen(PopupPlace::Category));
+        bench.point(PopupPlace::Category, mouseRow);
+        settle();
+        // A press on the category leaves everything open, one elsewhere closes it all.
+        bench.choose(PopupPlace::Category, mouseRow);
+        EXPECT_TRUE(bench.isOpen(PopupPlace::Mouse));
+        const Rect window = bench.window->screenRect();
+        testing::click({window.left + 600, window.top + 480});
+        EXPECT_TRUE(runUntil([&] { return !bench.window->popups().any(); }));
+        expectClosed(id::gKeyField1);
+    });
+}
+
+TEST_F(GKeyPage, DialogsAnswerForTheFieldThatOpenedThem) {
+    run([&] {
+        const std::string path = "/usr/bin/editor";
+        const SelectionRecord shortcut{"Ctrl+Shift+A", {6, 3, 4}};
+        sendSelection(*bench.window, msg::shortcutChosen, 0, shortcut);
+        EXPECT_EQ(slot(1).Name, "CTRL+2") << "no field is waiting yet";
+
+        const struct {
+            Message wanted;
+            Size dialog;
+            Point cancel;
+        } dialogs[] = {{msg::shortcutWanted, dialog::shortcut::size, {150, 176}},
+                       {msg::launchWanted, dialog::launch::size, {180, 212}}};
+        for (const auto& each : dialogs) {
+            openMenu(id::gKeyField2);
+            bench.window->send(each.wanted, id::gKeyField2);
+            expectClosed(id::gKeyField2);
+            EXPECT_TRUE(bench.answered(settle, bench.clicksIn(each.dialog, {each.cancel})));
+        }
+        sendSelection(*bench.window, msg::shortcutChosen, 0, shortcut);
+        EXPECT_EQ(slot(1), (GKeySlot{"Ctrl+Shift+A", "", {6, 3, 4}}));
+        {
+            const Sent<std::string> sent(path);
+            sendSelection(*bench.window, msg::launchChosen, sent.word(), {"editor", {7, 0, 0}});
+        }
+        EXPECT_EQ(slot(1), (GKeySlot{"editor", path, {7, 0, 0}}));
+        sendSelection(*bench.window, msg::launchChosen, 0, {"none", {7, 0, 0}});
+        EXPECT_EQ(slot(1).Name, "editor");
+    });
+}
+
+} // namespace
+} // namespace tarnix

@@ -1,0 +1,134 @@
+#include "main_window_bench.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "profile/numbers.h"
+
+namespace tarnix {
+
+namespace {
+
+constexpr std::size_t shownBytes = 8; ///< of a report
+
+std::string describe(const WireRecord& record) {
+    std::string text = record.direction == WireDirection::Get ? "get" : "set";
+    const std::size_t shown = record.direction == WireDirection::Get ? 1 : shownBytes;
+    for (std::size_t i = 0; i < std::min(shown, record.report.size()); ++i) {
+        text += ' ';
+        appendHexByte(text, record.report[i]);
+    }
+    return text;
+}
+
+/// Tells whether it is active, and that keys reach it.
+class ObservedWindow : public CPelmoraDlg {
+  public:
+    ObservedWindow(const MainWindowSurroundings& surroundings, bool& active, bool& hearsKeys)
+        : CPelmoraDlg(surroundings), m_active(active), m_hearsKeys(hearsKeys) {}
+    void OnActivate(bool active) override { m_active = active; }
+    bool OnKey(const KeyPress& key) override {
+        m_hearsKeys = true;
+        return CPelmoraDlg::OnKey(key);
+    }
+
+  private:
+    bool& m_active;
+    bool& m_hearsKeys;
+};
+
+Point centreOf(const Rect& rect) {
+    return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+}
+
+} // namespace
+
+MainWindowBench::MainWindowBench() {
+    keyboard.onWire = [this](const WireRecord& record) {
+        if (record.direction != WireDirection::Event) files.log.push_back(describe(record));
+    };
+    window = std::make_unique<ObservedWindow>(
+        MainWindowSurroundings{store, macros, files, clock, hid, loop(), shell, presence, "/kbd/"}, active,
+        m_hearsKeys);
+}
+
+void MainWindowBench::run(const std::function<void()>& scenario) {
+    loop().post([&] {
+        awaitKeyboard();
+        files.log.clear();
+        scenario();
+        window->endModal(IDCANCEL);
+    });
+    window->DoModal();
+}
+
+void MainWindowBench::awaitKeyboard() {
+    // The desktop gives the keyboard some time after it has shown the window.
+    m_hearsKeys = false;
+    for (int i = 0; i < 50 && !m_hearsKeys; ++i) {
+        testing::tapKey("Shift_L");
+        testing::runUntil([&] { return m_hearsKeys; }, Milliseconds(100));
+    }
+    testing::settle();
+}
+
+Journal MainWindowBench::changes() {
+    Journal all = std::exchange(files.log, {});
+    std::erase_if(all, [](const std::string& line) {
+        return line.starts_with("read ") || line.starts_with("set aside ");
+    });
+    return all;
+}
+
+bool MainWindowBench::answered(const std::function<void()>& work, std::function<void()> answer) {
+    const auto over = std::make_shared<bool>(false);
+    m_attempts = 0;
+    loop().post([this, answer = std::move(answer), over] { attempt(answer, over); });
+    work();
+    *over = true;
+    return m_attempts > 0;
+}
+
+/// The desktop takes its time to show a dialog, so the answer may have to be given again.
+void MainWindowBench::attempt(std::function<void()> answer, std::shared_ptr<bool> over) {
+    if (*over) return;
+    ++m_attempts;
+    testing::settle();
+    answer();
+    m_nextAttempt = loop().after(Milliseconds(200), [this, answer, over] { attempt(answer, over); });
+}
+
+std::function<void()> MainWindowBench::clicksIn(Size dialog, const std::vector<Point>& inDialog) {
+    const Point middle = centreOf(window->screenRect());
+    return [inDialog, corner = Point{middle.x - dialog.width / 2, middle.y - dialog.height / 2}] {
+        for (const Point at : inDialog)
+            testing::click({corner.x + at.x, corner.y + at.y});
+    };
+}
+
+bool MainWindowBench::clickAndAnswer(unsigned control, Size dialog, const std::vector<Point>& inDialog) {
+    return answered([&] { click(control); }, clicksIn(dialog, inDialog));
+}
+
+CListPopup& MainWindowBench::list(PopupPlace place) {
+    return dynamic_cast<CListPopup&>(*window->popups().at(place));
+}
+
+void MainWindowBench::point(PopupPlace place, std::size_t row) {
+    CListPopup& popup = list(place);
+    popup.OnMouseMove(0, centreOf(popup.rows().at(row).rect));
+}
+
+void MainWindowBench::choose(PopupPlace place, std::size_t row) {
+    CListPopup& popup = list(place);
+    clickAt(popup, centreOf(popup.rows().at(row).rect));
+    testing::settle();
+}
+
+std::unique_ptr<Surface> MainWindowBench::face() {
+    auto surface = makeSurface(mainWindowSize);
+    window->OnPaint(surface->canvas(), Rect::at(0, 0, mainWindowSize.width, mainWindowSize.height));
+    return surface;
+}
+
+} // namespace tarnix

@@ -1,0 +1,118 @@
+// A main window on the bench: the virtual keyboard below it, files in memory, a clock that does not wait, and
+// one journal of what goes to files, keyboard and desktop.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "skin/list_popup.h"
+#include "skin/tab_control.h"
+#include "support/desktop_driver.h"
+#include "support/fake_clock.h"
+#include "support/memory_files.h"
+#include "support/ui_scenario.h"
+#include "ui/main_window_layout.h"
+#include "ui/pelmora_dlg.h"
+#include "virtual/virtual_hid.h"
+#include "virtual/virtual_keyboard.h"
+
+namespace tarnix {
+
+using Journal = std::vector<std::string>;
+
+/// Notes what it is asked; file dialogs answer what was prepared.
+class NotingShell : public Shell {
+  public:
+    std::optional<std::string> nextFile;
+    Journal asked;
+
+    void messageBox(const std::string& text) override { asked.push_back("box " + text); }
+    std::optional<std::string> openFile(const FileDialog& dialog, Window&) override {
+        asked.push_back(dialog.title);
+        return nextFile;
+    }
+    std::optional<std::string> saveFile(const FileDialog& dialog, Window&) override {
+        asked.push_back(dialog.title);
+        return nextFile;
+    }
+    void openLink(const std::string& address) override { asked.push_back("link " + address); }
+    void launch(const std::string& target) override { asked.push_back("launch " + target); }
+};
+
+class NotingPresence : public DesktopPresence {
+  public:
+    explicit NotingPresence(Journal& journal) : m_journal(journal) {}
+
+    bool trayShown = true;
+    std::vector<WParam> events;
+
+    void AddTrayIcon(Window&) override { m_journal.push_back("tray added"); }
+    void RemoveTrayIcon() override { m_journal.push_back("tray removed"); }
+    bool isTrayShown() const override { return trayShown; }
+    void OnDeviceEvent(WParam code) override { events.push_back(code); }
+    void OnTimer(unsigned) override {}
+
+  private:
+    Journal& m_journal;
+};
+
+inline MainLoop& loop() {
+    return testing::application().mainLoop();
+}
+
+class MainWindowBench {
+  public:
+    MainWindowBench();
+
+    FakeClock clock;
+    VirtualKeyboard keyboard{clock};
+    VirtualHid hid{keyboard};
+    MemoryFiles files; ///< its log is the journal
+    ProfileStore store;
+    MacroLibrary macros;
+    NotingShell shell;
+    NotingPresence presence{files.log};
+    std::unique_ptr<CPelmoraDlg> window;
+    bool active = false; ///< the window, among the program's
+
+    /// Runs the window, and the scenario in it once the window is active and the journal empty; then ends the
+    /// window.
+    void run(const std::function<void()>& scenario);
+    /// Waits until keys reach the window, which has just been shown.
+    void awaitKeyboard();
+    /// What the journal holds but for reading; it is empty afterwards.
+    Journal changes();
+
+    void click(unsigned control) { clickControl(*window, control); }
+    /// Does work that runs a dialog, and has the dialog answered, again and again until it has closed. True
+    /// when there was a dialog.
+    bool answered(const std::function<void()>& work, std::function<void()> answer);
+    /// The same: the work is a click on a control, the answer clicks in the dialog over the middle of the
+    /// window.
+    bool clickAndAnswer(unsigned control, Size dialog, const std::vector<Point>& inDialog);
+    /// An answer that clicks points of a dialog.
+    std::function<void()> clicksIn(Size dialog, const std::vector<Point>& inDialog);
+    CListPopup& list(PopupPlace place);
+    bool isOpen(PopupPlace place) const { return window->popups().at(place) != nullptr; }
+    /// Moves over a row of an open list, or chooses it.
+    void point(PopupPlace place, std::size_t row);
+    void choose(PopupPlace place, std::size_t row);
+    const CComboButton& field(unsigned id) const { return *window->control<CComboButton>(id); }
+    const CKeyboardButton& cap(unsigned id) const { return *window->control<CKeyboardButton>(id); }
+    /// The window's face as it is painted now.
+    std::unique_ptr<Surface> face();
+
+    static std::string file(const std::string& name) { return "/kbd/config\\" + name; }
+
+  private:
+    void attempt(std::function<void()> answer, std::shared_ptr<bool> over);
+
+    bool m_hearsKeys = false;
+    int m_attempts = 0;
+    std::unique_ptr<MainLoop::Subscription> m_nextAttempt;
+};
+
+} // namespace tarnix

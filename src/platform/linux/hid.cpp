@@ -11,14 +11,12 @@
 
 #include "platform/linux/file_descriptor.h"
 #include "platform/linux/hid_device.h"
+#include "platform/linux/hid_path.h"
 #include "platform/linux/hotplug.h"
 #include "platform/linux/report_descriptor.h"
 
 namespace tarnix {
 namespace {
-
-/// Stands between a node and the number of a collection in it, where a node has several.
-constexpr char collectionMark = '#';
 
 /// What the kernel hands out at most (HID_MAX_DESCRIPTOR_SIZE).
 constexpr std::size_t maxDescriptorSize = 4096;
@@ -98,7 +96,7 @@ class LinuxHid final : public Hid {
 
     std::unique_ptr<HidDevice> open(const std::string& path) override {
         const std::size_t mark = path.find(collectionMark);
-        const std::string node = path.substr(0, mark);
+        const std::string node = nodeOfHidPath(path);
         const ReportDescriptor descriptor = readDescriptor(node);
         HidInput input{descriptor.usesReportIds, std::bitset<256>().set()};
         if (mark != std::string::npos && descriptor.usesReportIds) {

@@ -7,7 +7,6 @@
 #include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <termios.h>
 #include <umockdev.h>
 
 #include <algorithm>
@@ -136,8 +135,10 @@ class MockPlug final : public BusPlug {
         m_terminal = FileDescriptor(umockdev_testbed_get_dev_fd(testbed, m_place.device.c_str()));
         // Inherited by the program, it would keep its own node alive after an unplug.
         ::fcntl(m_terminal.get(), F_SETFD, FD_CLOEXEC);
-        m_peer = FileDescriptor(::ioctl(m_terminal.get(), TIOCGPTPEER, O_RDWR | O_NOCTTY | O_CLOEXEC));
+        m_peer = FileDescriptor(
+            ::ioctl(m_terminal.get(), TIOCGPTPEER, O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
         g_signal_connect(m_handler.get(), "handle-ioctl", G_CALLBACK(onIoctl), this);
+        g_signal_connect(m_handler.get(), "handle-read", G_CALLBACK(onRead), this);
         g_signal_connect(m_handler.get(), "client-connected", G_CALLBACK(onOpen), this);
         g_signal_connect(m_handler.get(), "client-vanished", G_CALLBACK(onClose), this);
         umockdev_testbed_attach_ioctl(testbed, m_place.device.c_str(), m_handler.get(), nullptr);
@@ -145,14 +146,16 @@ class MockPlug final : public BusPlug {
     }
 
     ~MockPlug() override {
-        if (!m_terminal) return;
+        if (!plugged()) return;
         m_answers.clear();
         g_signal_handlers_disconnect_by_data(m_handler.get(), this);
+        m_terminal = {};
+        m_peer = {};
         announce(m_testbed, sysPath(m_place.node), "remove");
         umockdev_testbed_detach_ioctl(m_testbed, m_place.device.c_str(), nullptr);
         umockdev_testbed_remove_device(m_testbed, sysPath(m_place.node).c_str());
         umockdev_testbed_remove_device(m_testbed, sysPath(m_place.hid).c_str());
-        // The test bed leaves the node's name behind, and its terminal, whose closing hangs up the readers.
+        // The test bed leaves the node's name behind.
         ::unlink((rootFolder(m_testbed) + m_place.device).c_str());
     }
 
@@ -162,26 +165,47 @@ class MockPlug final : public BusPlug {
     bool plugged() const { return static_cast<bool>(m_terminal); }
 
     void sendInput(std::span<const std::uint8_t> report) override {
-        // As in the kernel, a report that nobody waits for is lost.
-        if (m_clients == 0) return;
+        // As in the kernel, a report that nobody waits for is lost, and so is one that finds the queue full.
+        if (m_clients == 0 || m_reports.size() == queueLength) return;
         m_reports.emplace_back(report.begin(), report.end());
-        if (m_reports.size() == 1)
-            m_delivery = GlibSource::every(Milliseconds(1), [this] { return deliver(); });
+        if (::write(m_terminal.get(), &readable, sizeof readable) < 0) m_reports.pop_back();
     }
 
   private:
+    /// A terminal keeps no borders between reports, so it carries none of them: one byte a report makes the
+    /// node readable, and the reader is handed the report in its place.
+    static constexpr std::uint8_t readable = 0;
+    static constexpr std::size_t queueLength = 64;
+
     static std::string sysPath(const std::string& device) { return "/sys" + device; }
 
-    /// A terminal keeps no borders between reports, so the next one is written when the last one was read.
-    /// True while there is more to deliver.
-    bool deliver() {
-        int unread = 0;
-        if (m_reports.empty()) return false;
-        if (::ioctl(m_peer.get(), TIOCINQ, &unread) == 0 && unread > 0) return true;
-        const std::vector<std::uint8_t> report = std::move(m_reports.front());
+    static gboolean onRead(UMockdevIoctlBase*, UMockdevIoctlClient* client, void* self) {
+        static_cast<MockPlug*>(self)->answerRead(client);
+        return TRUE;
+    }
+
+    void answerRead(UMockdevIoctlClient* client) {
+        takeMarks();
+        if (m_reports.empty()) {
+            umockdev_ioctl_client_complete(client, -1, EAGAIN);
+            return;
+        }
+        UMockdevIoctlData* const buffer = umockdev_ioctl_client_get_arg(client);
+        std::vector<std::uint8_t> report = std::move(m_reports.front());
         m_reports.pop_front();
-        if (::write(m_terminal.get(), report.data(), report.size()) < 0) m_reports.clear();
-        return !m_reports.empty();
+        report.resize(std::min(report.size(), static_cast<std::size_t>(buffer->data_len)));
+        umockdev_ioctl_data_update(buffer, 0, report.data(), static_cast<int>(report.size()));
+        ++m_marksToTake;
+        takeMarks();
+        umockdev_ioctl_client_complete(client, static_cast<long>(report.size()), 0);
+    }
+
+    /// Takes back the bytes of reports that were read. The kernel may pass a byte on a little later than it
+    /// was written.
+    void takeMarks() {
+        std::uint8_t mark = 0;
+        while (m_marksToTake > 0 && ::read(m_peer.get(), &mark, sizeof mark) == sizeof mark)
+            --m_marksToTake;
     }
 
     static void onOpen(UMockdevIoctlBase*, UMockdevIoctlClient*, void* self) {
@@ -191,8 +215,9 @@ class MockPlug final : public BusPlug {
     static void onClose(UMockdevIoctlBase*, UMockdevIoctlClient*, void* self) {
         auto& plug = *static_cast<MockPlug*>(self);
         if (--plug.m_clients > 0) return;
+        plug.m_marksToTake += static_cast<int>(plug.m_reports.size());
         plug.m_reports.clear();
-        ::tcflush(plug.m_peer.get(), TCIFLUSH);
+        plug.takeMarks();
     }
 
     static gboolean onIoctl(UMockdevIoctlBase*, UMockdevIoctlClient* client, void* self) {
@@ -285,11 +310,11 @@ class MockPlug final : public BusPlug {
     BusFunction& m_function;
     NodePlace m_place;
     GObjectPtr<UMockdevIoctlBase> m_handler;
-    FileDescriptor m_terminal; ///< what is written here, the node's readers read
-    FileDescriptor m_peer;     ///< the readers' end, to see what they have not read
+    FileDescriptor m_terminal; ///< behind the node; closing it hangs up the node's readers
+    FileDescriptor m_peer;     ///< the readers' end
     int m_clients = 0;
     std::deque<std::vector<std::uint8_t>> m_reports;
-    GlibSource m_delivery;
+    int m_marksToTake = 0;
     std::vector<std::unique_ptr<DelayedAnswer>> m_answers;
 };
 

@@ -42,23 +42,23 @@ TEST_F(PointerTest, PressOfAButtonIsCapturedUntilItIsReleasedOutsideTheWindow) {
 
 TEST_F(PointerTest, BackgroundDragsTheWindowWithoutAWordToTheControls) {
     const Rect before = dialog.screenRect();
-    const auto moved = [&] { return dialog.screenRect().left > before.left; };
-    // The window manager takes its time to start, and tells where the window is when the move is over.
-    for (int attempt = 0; attempt < 5 && !moved(); ++attempt) {
-        movePointer(on(dialog, {100, 150}));
+    const auto dragged = [&] {
+        movePointer(on(dialog, {390, 20}));
+        return dialog.screenRect().left > before.left && dialog.mouse().hot() == button;
+    };
+    // The window manager tells where the window is when the move is over, and may start after our release.
+    for (int attempt = 0; attempt < 5 && !dragged(); ++attempt) {
+        const Point start = on(dialog, {100, 150});
+        movePointer(start);
         pressButton();
         for (int step = 0; step < 40; ++step) {
-            movePointer(on(dialog, {100 + step, 150}));
+            movePointer({start.x + step, start.y});
             testing::settle();
         }
         releaseButton();
-        runUntil(moved, std::chrono::seconds{2});
+        runUntil(dragged, std::chrono::seconds{2});
     }
-    EXPECT_TRUE(moved());
-    EXPECT_TRUE(runUntil([this] {
-        movePointer(on(dialog, {390, 20}));
-        return dialog.mouse().hot() == button;
-    }));
+    EXPECT_TRUE(dragged());
     testing::click(on(dialog, {390, 20}));
     EXPECT_TRUE(runUntil([this] { return dialog.notices.size() >= 2; }));
     EXPECT_EQ(dialog.take(), (Notices{{2001, 0, 1}, {2001, 0, 2}}));

@@ -5,13 +5,11 @@
 #include "ctl/output.h"
 #include "device/device_link.h"
 #include "device/feature_reports.h"
+#include "platform/window.h"
 
 namespace tarnix {
 
 namespace {
-
-/// The window program's single-instance name.
-constexpr const char* programName = "Tarnix Keyboard";
 
 OpenedInterface refuse(ExitStatus status, const std::string& message) {
     complain(message + "; tarnixctl doctor tells more");
@@ -62,11 +60,11 @@ OpenedInterface openInterface(Hid& hid, std::uint16_t usagePage) {
 }
 
 bool isProgramRunning() {
-    return acquireInstanceLock(programName) == nullptr;
+    return acquireInstanceLock(programTitle) == nullptr;
 }
 
 ExclusiveInterface openConfiguration(Hid& hid) {
-    auto lock = acquireInstanceLock(programName);
+    auto lock = acquireInstanceLock(programTitle);
     if (!lock) return {nullptr, refuse(ExitStatus::InUse, "Tarnix Keyboard or another tarnixctl is running")};
     return {std::move(lock), openInterface(hid, keyboardIdentity::featureUsagePage)};
 }

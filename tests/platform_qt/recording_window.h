@@ -24,8 +24,25 @@ class RecordingWindow : public Window {
     void OnMouseLeave() override { note("leave"); }
     void OnMouseHover() override { note("hover"); }
     void OnActivate(bool active) override { note(active ? "active" : "inactive"); }
+    bool OnKey(const KeyPress& key) override {
+        static const char* const names[] = {"other", "Enter", "Escape", "Tab", "Space"};
+        note(std::string(key.down ? "key " : "key up ") + names[static_cast<int>(key.key)]);
+        return swallowsKeys;
+    }
+    LResult OnMessage(Message message, WParam w, LParam l) override {
+        note("message " + std::to_string(message) + " " + std::to_string(w) + " " + std::to_string(l));
+        return static_cast<LResult>(w) + l;
+    }
+    void OnEditChange(unsigned id) override { note("edit " + std::to_string(id)); }
     void OnTimer(unsigned id) override { note("timer " + std::to_string(id)); }
     void OnDestroy() override { note("destroy"); }
+
+    void OnPaint(Canvas& canvas, const Rect& dirty) override {
+        canvas.fill(dirty, rgb(10, 20, 30));
+        ++paints;
+    }
+    int paints = 0;
+    bool swallowsKeys = false;
 
   protected:
     static std::string text(unsigned flags, Point at) {

@@ -21,15 +21,19 @@ class WindowTest : public ::testing::Test {
     ~WindowTest() override { movePointer({1200, 1000}); }
 
     /// Shown, painted and active; the log is empty afterwards.
-    void showMain(Window& window, const Rect& place = mainPlace) {
+    void showMain(RecordingWindow& window, const Rect& place = mainPlace) {
         movePointer({1200, 1000});
         ASSERT_TRUE(window.createWindow({.role = "Main", .taskbarButton = true}, place));
         window.show();
-        ASSERT_TRUE(runUntil([&] { return window.screenRect() == place && m_log.size() >= 1; }));
+        ASSERT_TRUE(runUntil([&] { return window.screenRect() == place && window.paints > 0; }));
         settle();
         m_log.clear();
     }
 
+    /// On the screen, that is.
+    static bool shown(const RecordingWindow& window) {
+        return runUntil([&] { return window.paints > 0; });
+    }
     bool logged(const std::string& entry) {
         return runUntil([&] { return std::find(m_log.begin(), m_log.end(), entry) != m_log.end(); });
     }

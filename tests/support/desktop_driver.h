@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "platform/application.h"
@@ -32,5 +33,18 @@ void turnWheel(bool up);
 /// A key by its X name ("Escape", "a", "ctrl+v").
 void tapKey(const std::string& name);
 void typeText(const std::string& text);
+
+/// Another program with a window at the right edge of the screen, which takes the keyboard focus.
+class OtherProgram {
+  public:
+    OtherProgram();
+    ~OtherProgram();
+    OtherProgram(const OtherProgram&) = delete;
+    OtherProgram& operator=(const OtherProgram&) = delete;
+
+  private:
+    struct Connection;
+    std::unique_ptr<Connection> m_connection;
+};
 
 } // namespace tarnix::testing

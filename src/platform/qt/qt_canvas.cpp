@@ -20,11 +20,8 @@ QRectF scaled(const Rect& rect, qreal scale) {
 
 class PaintedPicture : public Surface {
   public:
-    PaintedPicture(Size size, int scale) : m_picture(blackImage(size, scale), scale) {
-        QImage& pixels = m_picture.paintablePixels();
-        pixels.setDevicePixelRatio(scale);
-        m_painter.begin(&pixels);
-    }
+    PaintedPicture(Size size, int scale)
+        : m_picture(blackImage(size, scale), scale), m_painter(&m_picture.paintablePixels()) {}
     ~PaintedPicture() override { m_painter.end(); }
     Canvas& canvas() override { return m_canvas; }
     const Image& image() const override { return m_picture; }
@@ -33,6 +30,7 @@ class PaintedPicture : public Surface {
     static QImage blackImage(Size size, int scale) {
         QImage image(std::max(size.width, 1) * scale, std::max(size.height, 1) * scale, QImage::Format_RGB32);
         image.fill(Qt::black);
+        image.setDevicePixelRatio(scale);
         return image;
     }
 

@@ -18,6 +18,8 @@ namespace tarnix {
 
 namespace {
 
+QPointer<WindowWidget> g_lastPressed;
+
 bool g_painted = false; ///< whether any window has painted itself
 std::vector<QPointer<QTimer>> g_afterPaint;
 constexpr int longestWait = 1000; ///< ms, for a program whose windows stay hidden
@@ -171,6 +173,7 @@ void WindowWidget::tick(unsigned id) {
 
 void WindowWidget::mousePressEvent(QMouseEvent* event) {
     m_pointer.pressed();
+    g_lastPressed = this;
     call([](Window& window) { Activation::instance().pressed(window); });
     if (event->button() != Qt::LeftButton) return;
     call([event](Window& window) {
@@ -180,6 +183,11 @@ void WindowWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void WindowWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (g_lastPressed != this) {
+        // The first press went to a window that was here before.
+        mousePressEvent(event);
+        return;
+    }
     m_pointer.pressed();
     call([](Window& window) { Activation::instance().pressed(window); });
     if (event->button() != Qt::LeftButton) return;

@@ -1,0 +1,129 @@
+#include "platform/edit_field.h"
+
+#include "platform/key_source.h"
+#include "window_fixture.h"
+
+namespace tarnix::testing {
+namespace {
+
+class Edit : public WindowTest {
+  protected:
+    void SetUp() override {
+        showMain(m_window);
+        // Without a window manager the focus comes with a click.
+        click({380, 300});
+        ASSERT_TRUE(logged("up 0 280,180"));
+        m_log.clear();
+    }
+    int changes(unsigned id) const {
+        return static_cast<int>(std::count(m_log.begin(), m_log.end(), "edit " + std::to_string(id)));
+    }
+    static bool holds(const EditField& field, const std::string& text) {
+        return runUntil([&] { return field.text() == text; });
+    }
+
+    RecordingWindow m_window{"", m_log};
+};
+
+TEST_F(Edit, TheUsersChangesAreToldAndTheProgramsAreNot) {
+    EditField field(m_window, 17, Rect::at(20, 20, 150, 20));
+    field.setText("ab");
+    field.setFocus();
+    settle();
+    EXPECT_EQ(changes(17), 0);
+    typeText("cd");
+    EXPECT_TRUE(holds(field, "abcd"));
+    EXPECT_EQ(changes(17), 2);
+    tapKey("BackSpace");
+    EXPECT_TRUE(holds(field, "abc"));
+    EXPECT_EQ(changes(17), 3);
+    EXPECT_EQ(field.id(), 17u);
+    field.setText("\xC4\xAC\xC8\xCF");
+    EXPECT_EQ(field.text(), "默认") << "a text of the program's own";
+}
+
+TEST_F(Edit, NumbersOnlyKeepsLettersFromBeingTypedButNotFromBeingPasted) {
+    EditField letters(m_window, 1, Rect::at(20, 20, 150, 20));
+    EditField numbers(m_window, 2, Rect::at(20, 60, 150, 20), {.numbersOnly = true});
+    letters.setText("x9");
+    letters.setFocus();
+    settle();
+    tapKey("ctrl+a");
+    tapKey("ctrl+c");
+    click({140, 190});
+    typeText("1a2");
+    EXPECT_TRUE(holds(numbers, "12"));
+    EXPECT_EQ(changes(2), 2);
+    tapKey("ctrl+v");
+    EXPECT_TRUE(holds(numbers, "12x9"));
+    EXPECT_EQ(changes(2), 3);
+}
+
+TEST_F(Edit, TheWindowSeesEachKeyOnceAndFirst) {
+    EditField field(m_window, 1, Rect::at(20, 20, 150, 20));
+    field.setFocus();
+    tapKey("a");
+    ASSERT_TRUE(logged("key up other"));
+    tapKey("Return");
+    ASSERT_TRUE(logged("key up Enter"));
+    EXPECT_THAT(m_log, ElementsAre("key other", "edit 1", "key up other", "key Enter", "key up Enter"));
+    m_log.clear();
+    m_window.swallowsKeys = true;
+    tapKey("b");
+    ASSERT_TRUE(logged("key up other"));
+    EXPECT_EQ(field.text(), "a");
+    EXPECT_EQ(changes(1), 0);
+}
+
+TEST_F(Edit, AFieldThatIsDeletedByItsOwnKeyOrOutlivesItsWindowDoesNoHarm) {
+    class Renaming : public RecordingWindow {
+      public:
+        using RecordingWindow::RecordingWindow;
+        bool OnKey(const KeyPress& key) override {
+            if (key.key == KeyPress::Key::Enter) field.reset();
+            return false;
+        }
+        void OnEditChange(unsigned id) override {
+            RecordingWindow::OnEditChange(id);
+            if (field && field->text() == "x") field.reset();
+        }
+        std::unique_ptr<EditField> field;
+    } window("renaming", m_log);
+    ASSERT_TRUE(window.createWindow({.owner = &m_window}, Rect::at(500, 500, 200, 100)));
+    window.show();
+    for (const std::string last : {"Return", "x"}) {
+        window.field = std::make_unique<EditField>(window, 5, Rect::at(10, 10, 100, 20));
+        click({550, 520});
+        window.field->setFocus();
+        tapKey(last);
+        EXPECT_TRUE(runUntil([&] { return !window.field; }));
+    }
+    window.field = std::make_unique<EditField>(window, 5, Rect::at(10, 10, 100, 20));
+    window.destroyWindow();
+    settle();
+    window.field->setText("late");
+    EXPECT_EQ(window.field->text(), "");
+}
+
+TEST_F(Edit, WhileKeysAreInterceptedNoWindowAndNoFieldActsOnThem) {
+    EditField field(m_window, 1, Rect::at(20, 20, 150, 20));
+    field.setFocus();
+    settle();
+    std::vector<std::pair<unsigned, bool>> keys;
+    {
+        const KeyInterception interception(
+            [&](const WindowKey& key) { keys.emplace_back(key.scanCode, key.down); });
+        tapKey("Escape");
+        tapKey("a");
+        ASSERT_TRUE(runUntil([&] { return keys.size() == 4; }));
+    }
+    EXPECT_THAT(keys, ElementsAre(std::pair(1u, true), std::pair(1u, false), std::pair(30u, true),
+                                  std::pair(30u, false)))
+        << "evdev's KEY_ESC and KEY_A";
+    EXPECT_THAT(m_log, IsEmpty());
+    typeText("b");
+    EXPECT_TRUE(holds(field, "b"));
+}
+
+} // namespace
+} // namespace tarnix::testing

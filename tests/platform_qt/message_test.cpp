@@ -1,0 +1,79 @@
+#include <thread>
+
+#include "window_fixture.h"
+
+namespace tarnix::testing {
+namespace {
+
+class Messages : public WindowTest {
+  protected:
+    bool make(Window& window) { return window.createWindow({.role = "Main"}, mainPlace); }
+    RecordingWindow m_window{"a", m_log};
+    RecordingWindow m_other{"b", m_log};
+};
+
+TEST_F(Messages, SendAnswersAtOnceAndPostsArriveInTheOrderInWhichTheyWerePostedWhateverTheWindow) {
+    EXPECT_EQ(m_window.send(5, 2, 3), 0) << "no window yet";
+    ASSERT_TRUE(make(m_window) && make(m_other));
+    m_window.post(1, 10, -1);
+    m_other.post(2);
+    application().mainLoop().post([&] { m_log.push_back("work"); });
+    m_window.post(3);
+    EXPECT_EQ(m_window.send(5, 2, 3), 5);
+    settle();
+    EXPECT_THAT(m_log, ElementsAre("a message 5 2 3", "a message 1 10 -1", "b message 2 0 0", "work",
+                                   "a message 3 0 0"));
+}
+
+TEST_F(Messages, EachThreadsPostsKeepTheirOrder) {
+    ASSERT_TRUE(make(m_window) && make(m_other));
+    constexpr int each = 500;
+    const auto postAll = [](Window& window) {
+        for (int i = 0; i < each; ++i)
+            window.post(1, static_cast<WParam>(i));
+    };
+    std::thread first(postAll, std::ref(m_window));
+    std::thread second(postAll, std::ref(m_other));
+    first.join();
+    second.join();
+    ASSERT_TRUE(runUntil([&] { return m_log.size() == 2 * each; }));
+    for (const std::string name : {"a", "b"}) {
+        int next = 0;
+        for (const std::string& entry : m_log) {
+            if (!entry.starts_with(name)) continue;
+            EXPECT_EQ(entry, name + " message 1 " + std::to_string(next++) + " 0");
+        }
+    }
+}
+
+TEST_F(Messages, WhatIsPostedToAWindowThatIsGoneReachesNeitherItNorItsSuccessor) {
+    ASSERT_TRUE(make(m_window) && make(m_other));
+    m_window.post(1);
+    m_window.postClose();
+    m_window.startTimer(1, 0);
+    m_window.destroyWindow();
+    m_window.post(2);
+    ASSERT_TRUE(make(m_window));
+    m_window.post(3);
+    {
+        RecordingWindow passing("passing", m_log);
+        ASSERT_TRUE(make(passing));
+        passing.post(4);
+    }
+    m_other.post(5);
+    ASSERT_TRUE(logged("b message 5 0 0"));
+    EXPECT_THAT(m_log, ElementsAre("a destroy", "a message 3 0 0", "b message 5 0 0"));
+}
+
+TEST_F(Messages, TimersRepeatUntilStoppedAndAnswerToTheirNumbers) {
+    ASSERT_TRUE(make(m_window));
+    m_window.startTimer(1, 5);
+    m_window.startTimer(2, 1);
+    m_window.stopTimer(2);
+    ASSERT_TRUE(runUntil([&] { return m_log.size() >= 3; }));
+    m_window.stopTimer(1);
+    EXPECT_THAT(m_log, ::testing::Each("a timer 1"));
+}
+
+} // namespace
+} // namespace tarnix::testing

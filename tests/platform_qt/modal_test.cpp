@@ -1,0 +1,136 @@
+#include "window_fixture.h"
+
+namespace tarnix::testing {
+namespace {
+
+constexpr Rect dialogPlace = Rect::at(420, 400, 200, 120);
+constexpr Rect innerPlace = Rect::at(640, 400, 200, 120);
+
+/// Its button, the whole face, ends it with the answer.
+class Dialog : public RecordingWindow {
+  public:
+    using RecordingWindow::RecordingWindow;
+    bool open(Window& owner, const Rect& place) {
+        return createWindow({.owner = &owner, .role = "Dialog"}, place);
+    }
+    void OnLButtonUp(unsigned flags, Point at) override {
+        RecordingWindow::OnLButtonUp(flags, at);
+        if (answer) endModal(answer);
+    }
+    int answer = 0;
+};
+
+class ModalRun : public WindowTest {
+  protected:
+    /// Runs the steps from the event loop, once the run has begun.
+    void then(std::function<void()> steps) {
+        application().mainLoop().post([this, steps = std::move(steps)] {
+            steps();
+            if (HasFatalFailure()) m_dialog.endModal(-1);
+        });
+    }
+    int count(const std::string& entry) const {
+        return static_cast<int>(std::count(m_log.begin(), m_log.end(), entry));
+    }
+
+    RecordingWindow m_main{"main", m_log};
+    Dialog m_dialog{"dialog", m_log};
+    Dialog m_inner{"inner", m_log};
+};
+
+TEST_F(ModalRun, TheDialogAndItsPopupsAloneTakeInputAndTheAnswerComesBack) {
+    showMain(m_main);
+    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
+    RecordingWindow popup("popup", m_log);
+    then([&] {
+        ASSERT_TRUE(shown(m_dialog));
+        ASSERT_TRUE(popup.createWindow({.kind = WindowKind::Popup, .owner = &m_dialog}, innerPlace));
+        popup.show();
+        ASSERT_TRUE(shown(popup));
+        click({110, 130});
+        tapKey("a");
+        click({650, 410});
+        ASSERT_TRUE(logged("popup up 0 10,10"));
+        m_dialog.answer = 7;
+        click({430, 410});
+    });
+    EXPECT_EQ(m_dialog.runModal(), 7);
+    EXPECT_FALSE(m_dialog.exists());
+    EXPECT_FALSE(popup.exists());
+    EXPECT_EQ(count("main down 1 10,10") + count("main up 0 10,10") + count("main key other"), 0);
+    settle();
+    click({110, 130});
+    EXPECT_TRUE(logged("main up 0 10,10")) << "the main window works again";
+}
+
+TEST_F(ModalRun, EscapeCancelsUnlessTheWindowSwallowsItAndEnterDoesNothing) {
+    showMain(m_main);
+    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
+    m_dialog.swallowsKeys = true;
+    then([&] {
+        ASSERT_TRUE(shown(m_dialog));
+        click({430, 410});
+        ASSERT_TRUE(logged("dialog up 0 10,10"));
+        tapKey("Escape");
+        ASSERT_TRUE(logged("dialog key up Escape"));
+        m_dialog.swallowsKeys = false;
+        tapKey("Return");
+        ASSERT_TRUE(logged("dialog key up Enter"));
+        ASSERT_TRUE(m_dialog.exists());
+        tapKey("Escape");
+    });
+    EXPECT_EQ(m_dialog.runModal(), IDCANCEL);
+}
+
+TEST_F(ModalRun, EndingAnOuterRunCancelsTheInnerOnesFirst) {
+    showMain(m_main);
+    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
+    ASSERT_TRUE(m_inner.open(m_dialog, innerPlace));
+    then([&] {
+        then([&] { m_dialog.endModal(IDOK); });
+        m_log.push_back("inner answers " + std::to_string(m_inner.runModal()));
+        Dialog late("late", m_log);
+        ASSERT_TRUE(late.open(m_dialog, innerPlace));
+        m_log.push_back("late answers " + std::to_string(late.runModal()));
+    });
+    m_log.push_back("outer answers " + std::to_string(m_dialog.runModal()));
+    std::erase_if(m_log, [](const std::string& entry) { return entry.find("answers") == std::string::npos; });
+    EXPECT_THAT(m_log, ElementsAre("inner answers 2", "late answers 2", "outer answers 1"));
+}
+
+TEST_F(ModalRun, EndsBeforeItBeginsAndEndsWhenTheWindowIsDestroyedInItsHandler) {
+    showMain(m_main);
+    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
+    m_dialog.endModal(5);
+    EXPECT_EQ(m_dialog.runModal(), 5);
+    EXPECT_THAT(m_log, ElementsAre("dialog destroy"));
+
+    class Vanishing : public Dialog {
+      public:
+        using Dialog::Dialog;
+        void OnLButtonDown(unsigned, Point) override { destroyWindow(); }
+    } vanishing("vanishing", m_log);
+    ASSERT_TRUE(vanishing.open(m_main, dialogPlace));
+    then([&] {
+        ASSERT_TRUE(shown(vanishing));
+        click({430, 410});
+    });
+    EXPECT_EQ(vanishing.runModal(), IDCANCEL);
+    EXPECT_EQ(count("vanishing destroy"), 1);
+}
+
+TEST_F(ModalRun, MessagesAndTimersOfAllWindowsGoOnDuringARun) {
+    showMain(m_main);
+    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
+    m_main.startTimer(3, 1);
+    m_main.post(1000);
+    then([&] {
+        EXPECT_TRUE(logged("main message 1000 0 0"));
+        EXPECT_TRUE(logged("main timer 3"));
+        m_dialog.endModal(IDOK);
+    });
+    EXPECT_EQ(m_dialog.runModal(), IDOK);
+}
+
+} // namespace
+} // namespace tarnix::testing

@@ -1,0 +1,123 @@
+#include <unistd.h>
+
+#include <chrono>
+#include <fstream>
+#include <thread>
+
+#include "window_fixture.h"
+
+namespace tarnix::testing {
+namespace {
+
+using namespace std::chrono_literals;
+
+class Pause : public WindowTest {
+  protected:
+    RecordingWindow m_window{"", m_log};
+};
+
+TEST_F(Pause, PaintsAndKeepsEverythingElseForAfterwardsInOrder) {
+    showMain(m_window);
+    movePointer({150, 180});
+    settle();
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    const auto watch = application().mainLoop().watch(ends[0], [&] {
+        char byte = 0;
+        if (read(ends[0], &byte, 1) == 1) m_log.push_back(std::string("read ") + byte);
+    });
+    const auto timer = application().mainLoop().after(1ms, [&] { m_log.push_back("after"); });
+    m_window.startTimer(9, 1);
+    m_log.clear();
+    const int paints = m_window.paints;
+
+    m_window.post(1);
+    m_window.invalidate();
+    std::thread user([&] {
+        m_window.post(2);
+        click({150, 180});
+        tapKey("a");
+        EXPECT_EQ(write(ends[1], "xy", 2), 2);
+        m_window.postClose();
+        m_window.post(3);
+    });
+    application().clock().pause(300ms);
+    user.join();
+    EXPECT_GT(m_window.paints, paints);
+    EXPECT_THAT(m_log, IsEmpty());
+
+    ASSERT_TRUE(logged("destroy"));
+    m_window.stopTimer(9);
+    const auto position = [&](const std::string& entry) {
+        return std::find(m_log.begin(), m_log.end(), entry) - m_log.begin();
+    };
+    EXPECT_LT(position("message 1 0 0"), position("message 2 0 0"));
+    EXPECT_LT(position("message 2 0 0"), position("down 1 50,60"));
+    EXPECT_LT(position("down 1 50,60"), position("up 0 50,60"));
+    EXPECT_LT(position("up 0 50,60"), position("key other"));
+    EXPECT_LT(position("key other"), position("destroy"));
+    EXPECT_EQ(std::count(m_log.begin(), m_log.end(), "message 3 0 0"), 0) << "the window was gone by then";
+    EXPECT_THAT(m_log, ::testing::IsSupersetOf({"after", "timer 9"}));
+    EXPECT_LE(std::count(m_log.begin(), m_log.end(), "timer 9"), 2) << "300 ticks became one";
+    EXPECT_TRUE(logged("read x") && logged("read y"));
+    close(ends[0]);
+    close(ends[1]);
+}
+
+TEST_F(Pause, WhatWaitedIsDeliveredInsideAModalRunThatOneOfItOpens) {
+    showMain(m_window);
+    RecordingWindow dialog("dialog", m_log);
+    ASSERT_TRUE(dialog.createWindow({.owner = &m_window}, Rect::at(500, 500, 100, 100)));
+    MainLoop& loop = application().mainLoop();
+    int answer = 0;
+    loop.post([&] { answer = dialog.runModal(); });
+    loop.post([&] { dialog.endModal(IDOK); });
+    application().clock().pause(10ms);
+    EXPECT_EQ(answer, 0);
+    EXPECT_TRUE(runUntil([&] { return answer == IDOK; }));
+}
+
+TEST_F(Pause, TwelvePausesOfEightMillisecondsTakeNoMoreThanTwoPercentLonger) {
+    showMain(m_window);
+    std::chrono::nanoseconds best = 1h;
+    // The machine may be busy with something else once or twice.
+    for (int attempt = 0; attempt < 20 && best > 97920us; ++attempt) {
+        const auto begin = std::chrono::steady_clock::now();
+        for (int i = 0; i < 12; ++i)
+            application().clock().pause(8ms);
+        const auto time = std::chrono::steady_clock::now() - begin;
+        EXPECT_GE(time, 96ms);
+        best = std::min<std::chrono::nanoseconds>(best, time);
+    }
+    EXPECT_LE(best, 97920us);
+}
+
+/// How often the calling thread has gone to sleep so far.
+long sleeps() {
+    std::ifstream status("/proc/thread-self/status");
+    std::string word;
+    while (status >> word) {
+        if (word == "voluntary_ctxt_switches:") break;
+    }
+    long count = -1;
+    status >> count;
+    return count;
+}
+
+TEST_F(Pause, AnIdleProgramWithItsWindowOpenDoesNotWakeUp) {
+    showMain(m_window);
+    settle();
+    bool over = false;
+    const auto end = application().mainLoop().after(600ms, [&] {
+        over = true;
+        m_window.endModal(IDOK);
+    });
+    // Waking up for what is left from before, and for the end.
+    const long before = sleeps();
+    m_window.runModal();
+    EXPECT_TRUE(over);
+    EXPECT_LE(sleeps() - before, 25);
+}
+
+} // namespace
+} // namespace tarnix::testing

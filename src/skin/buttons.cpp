@@ -109,7 +109,6 @@ CKeyboardButton::CKeyboardButton(Window& owner, unsigned id, const Rect& rect, s
     : CStripButton(3, owner, id, rect, std::move(text), visible, disabled) {}
 
 void CKeyboardButton::SetKey(const std::string& name, std::uint8_t defaultCode, std::uint8_t currentCode) {
-    m_nKeyID = m_nID;
     m_strKeyName = name;
     m_nDefaultCode = defaultCode;
     SetCurrentCode(currentCode);

@@ -102,7 +102,6 @@ class CKeyboardButton : public CStripButton {
     /// Sets the current code and the remapped flag; does not repaint.
     void SetCurrentCode(std::uint8_t code);
 
-    unsigned m_nKeyID = 0;
     std::string m_strKeyName;
     std::uint8_t m_nDefaultCode = 0;
     std::uint8_t m_nCurrentCode = 0;

@@ -10,39 +10,38 @@ namespace {
 
 template <class T>
 std::unique_ptr<CControlBase> makeStrip(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto button = std::make_unique<T>(owner, row.id, rect, "", row.visible);
+    auto button = std::make_unique<T>(owner, row.id, rect);
     if (row.image) button->LoadImage(row.image);
     return button;
 }
 
 std::unique_ptr<CControlBase> makeCombo(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto field =
-        std::make_unique<CComboButton>(owner, row.notify, row.id, rect, "", row.visible, false, row.text);
+    auto field = std::make_unique<CComboButton>(owner, row.notify, row.id, rect, "", true, false, row.text);
     field->LoadImage(row.image);
     return field;
 }
 
 std::unique_ptr<CControlBase> makeKey(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto key = std::make_unique<CKeyboardButton>(owner, row.id, rect, "", row.visible);
+    auto key = std::make_unique<CKeyboardButton>(owner, row.id, rect);
     key->LoadImage(row.image);
     key->SetKey(row.text, row.keyCode, row.keyCode);
     return key;
 }
 
 std::unique_ptr<CControlBase> makeRegion(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto button = std::make_unique<CRegionButton>(owner, row.id, rect, "", row.visible);
+    auto button = std::make_unique<CRegionButton>(owner, row.id, rect);
     button->m_region = row.region;
     return button;
 }
 
 std::unique_ptr<CControlBase> makeScrollBar(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto bar = std::make_unique<CVScrollBar>(owner, row.id, rect, "", row.visible);
+    auto bar = std::make_unique<CVScrollBar>(owner, row.id, rect);
     bar->LoadImages();
     return bar;
 }
 
 std::unique_ptr<CControlBase> makeLabel(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto label = std::make_unique<CStaticText>(owner, row.id, rect, row.color, row.format, "", row.visible);
+    auto label = std::make_unique<CStaticText>(owner, row.id, rect, row.color, row.format);
     label->m_strLabel = row.text;
     return label;
 }

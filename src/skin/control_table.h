@@ -25,13 +25,6 @@ struct ControlRow {
     Color color = 0;          ///< of a label
     unsigned format = 0;      ///< of a label
     std::uint8_t keyCode = 0; ///< of a key cap: its default code
-    bool visible = true;
-
-    constexpr ControlRow hidden() const {
-        ControlRow row = *this;
-        row.visible = false;
-        return row;
-    }
 };
 
 constexpr ControlRow imageButton(unsigned id, const Rect& rect, unsigned image) {

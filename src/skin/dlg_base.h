@@ -78,7 +78,6 @@ class CDlgBase : public Window {
     virtual void OnEnter();
 
     void drawBackground(Canvas& canvas, const Rect& dirty) const { m_background.draw(canvas, dirty); }
-    const Background& background() const { return m_background; }
     const MouseRouter& mouse() const { return m_mouse; }
 
     /// Puts a control into a group and answers it.

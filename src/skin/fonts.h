@@ -11,8 +11,6 @@ inline constexpr TextFormat controlFont{.height = 12, .verticalCentred = true};
 inline constexpr TextFormat valueFont{.averageWidth = 9, .verticalCentred = true};
 /// Labels.
 inline constexpr TextFormat labelFont{};
-/// Texts that a window paints on its own face: 10 points at 96 pixels an inch.
-inline constexpr TextFormat windowFont{.height = 13, .weight = 600};
 
 constexpr TextFormat colored(TextFormat format, Color color) {
     format.color = color;

@@ -59,7 +59,6 @@ class CEditShowList : public CRowList {
     void CloseEditor() { m_editor.reset(); }
 
     int currentSet() const { return m_nSet; }
-    MacroLibrary& source() const { return m_source; }
     int rowCount() const override;
 
   protected:

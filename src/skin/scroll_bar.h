@@ -23,7 +23,6 @@ class CVScrollBar : public CMouseControl {
     int page() const { return m_nPage; }
     int range() const { return m_nRange; }
     const Rect& thumb() const { return m_dragging ? m_drag : m_thumb; }
-    const Rect& track() const { return m_track; }
 
     void Draw(Canvas& canvas, const Rect& clip) override;
     bool OnMouseMove(unsigned flags, Point at) override;

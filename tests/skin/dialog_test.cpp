@@ -64,21 +64,6 @@ TEST_F(RoutingTest, DoubleClickClicksTwiceAndPressesOnce) {
     EXPECT_EQ(dialog.take(), (Notices{{2100, 0, 1}, {2100, 0, 2}, {2100, 0, 2}}));
 }
 
-TEST_F(RoutingTest, OnlyTheGroupOfTheKeyCapsHearsDoubleClicksEvenWhenHidden) {
-    struct Cap : CKeyboardButton {
-        using CKeyboardButton::CKeyboardButton;
-        bool OnLButtonDblClk(unsigned, Point) override { return ++doubleClicks; }
-        int doubleClicks = 0;
-    };
-    auto& common = dialog.make<Cap>(0, 2300u, Rect::at(200, 100, 20, 20));
-    auto& cap = dialog.make<Cap>(1, 2301u, Rect::at(210, 100, 20, 20));
-    cap.SetVisible(false);
-    dialog.OnLButtonDblClk(0, {225, 105});
-    EXPECT_EQ(cap.doubleClicks, 1);
-    dialog.OnLButtonDblClk(0, {215, 105});
-    EXPECT_EQ(common.doubleClicks + cap.doubleClicks, 1) << "the first control at the point decides";
-}
-
 TEST_F(RoutingTest, LastControlUnderThePointerWinsAndHiddenOnesAreNotThere) {
     auto& over = dialog.make<CImageButton>(4, 2102u, left);
     dialog.OnMouseMove(0, onLeft);

@@ -31,7 +31,6 @@ class TestDialog : public CDlgBase {
     explicit TestDialog(Size size = {400, 300}) : CDlgBase({.role = "TestDialog"}, size) {}
 
     using CDlgBase::addControl;
-    using CDlgBase::background;
     using CDlgBase::m_messages;
     using CDlgBase::mouse;
 

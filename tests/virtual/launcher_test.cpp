@@ -1,94 +1,18 @@
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <poll.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <chrono>
-#include <csignal>
+#include <cstdlib>
 #include <filesystem>
 
 #include "platform/hid.h"
-#include "platform/linux/file_descriptor.h"
 #include "platform/main_loop.h"
+#include "support/launcher_process.h"
 #include "support/temp_folder.h"
-
-extern char** environ;
 
 namespace tarnix {
 namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-
-/// A launcher with a program beside it, both writing to one pipe.
-class LauncherProcess {
-  public:
-    LauncherProcess(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), TARNIX_LAUNCHER);
-        std::vector<char*> words;
-        for (std::string& word : arguments)
-            words.push_back(word.data());
-        words.push_back(nullptr);
-        int in[2];
-        int out[2];
-        if (::pipe2(in, O_CLOEXEC) != 0 || ::pipe2(out, O_CLOEXEC) != 0) return;
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_adddup2(&actions, in[0], STDIN_FILENO);
-        posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
-        ::posix_spawn(&m_pid, words[0], &actions, nullptr, words.data(), environ);
-        posix_spawn_file_actions_destroy(&actions);
-        ::close(in[0]);
-        ::close(out[1]);
-        m_input = FileDescriptor(in[1]);
-        m_output = FileDescriptor(out[0]);
-    }
-    ~LauncherProcess() {
-        if (m_pid > 0) signal(SIGTERM), static_cast<void>(status());
-    }
-    LauncherProcess(const LauncherProcess&) = delete;
-    LauncherProcess& operator=(const LauncherProcess&) = delete;
-
-    void command(const std::string& line) {
-        EXPECT_GT(::write(m_input.get(), (line + '\n').c_str(), line.size() + 1), 0);
-    }
-    void closeInput() { m_input = {}; }
-    void signal(int number) { ::kill(m_pid, number); }
-
-    /// What came since the last call, up to and with the text; the whole rest when the pipe ends first.
-    std::string until(const std::string& text) {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-        std::size_t found = 0;
-        while ((found = m_pending.find(text)) == std::string::npos &&
-               std::chrono::steady_clock::now() < deadline) {
-            pollfd wait{m_output.get(), POLLIN, 0};
-            char bytes[4096];
-            if (::poll(&wait, 1, 100) <= 0) continue;
-            const ssize_t length = ::read(m_output.get(), bytes, sizeof bytes);
-            if (length <= 0) return std::exchange(m_pending, {});
-            m_pending.append(bytes, static_cast<std::size_t>(length));
-        }
-        const std::size_t length = found == std::string::npos ? m_pending.size() : found + text.size();
-        const std::string result = m_pending.substr(0, length);
-        m_pending.erase(0, length);
-        return result;
-    }
-    std::string rest() { return until(std::string(1, '\0')); }
-
-    int status() {
-        int status = -1;
-        ::waitpid(std::exchange(m_pid, -1), &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-    }
-
-  private:
-    pid_t m_pid = -1;
-    FileDescriptor m_input;
-    FileDescriptor m_output;
-    std::string m_pending;
-};
 
 class LauncherTest : public testing::Test {
   protected:

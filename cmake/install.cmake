@@ -64,6 +64,6 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # A Latin and a Chinese font; shlibdeps finds the rest. The virtual keyboard preloads a library of umockdev's.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-inter | fonts-dejavu-core, fonts-wqy-microhei")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "umockdev")
-set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${package_files}/debian/postinst ${package_files}/debian/postrm)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${package_files}/debian/postinst)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)

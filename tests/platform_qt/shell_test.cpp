@@ -1,0 +1,104 @@
+#include "platform/shell.h"
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "window_fixture.h"
+
+namespace tarnix::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FileDialogs : public WindowTest {
+  protected:
+    void SetUp() override {
+        showMain(m_window);
+        m_before = fs::current_path();
+        m_folder = fs::temp_directory_path() / ("tarnix-dialogs-" + std::to_string(getpid()));
+        fs::create_directories(m_folder);
+        fs::current_path(m_folder);
+        for (const char* name : {"old.psf", "note.txt"})
+            std::ofstream(m_folder / name) << "x";
+    }
+    ~FileDialogs() override {
+        fs::current_path(m_before);
+        fs::remove_all(m_folder);
+    }
+    /// What the user does once the dialog is there.
+    void user(std::function<void()> does) {
+        m_steps = application().mainLoop().after(std::chrono::milliseconds{400}, std::move(does));
+    }
+    std::optional<std::string> save() {
+        return m_shell->saveFile({.title = "Save Profile as...",
+                                  .filter = "psf file(*.psf)|*.psf||",
+                                  .defaultExtension = "psf",
+                                  .fileName = ".psf"},
+                                 m_window);
+    }
+    std::optional<std::string> open() {
+        return m_shell->openFile({.title = "Load Profile from...",
+                                  .filter = "psf file(*.psf)|*.psf||",
+                                  .defaultExtension = "psf",
+                                  .fileName = ".psf"},
+                                 m_window);
+    }
+    /// Puts the name in place of what the dialog proposes.
+    static void enterName(const std::string& name) {
+        tapKey("ctrl+a");
+        typeText(name);
+        tapKey("Return");
+    }
+
+    RecordingWindow m_window{"", m_log};
+    std::unique_ptr<Shell> m_shell = makeSystemShell();
+    std::unique_ptr<MainLoop::Subscription> m_steps;
+    fs::path m_before;
+    fs::path m_folder;
+};
+
+TEST_F(FileDialogs, ANewNameGetsTheExtensionAndTheCurrentFolder) {
+    user([] { enterName("fresh"); });
+    EXPECT_EQ(save(), (m_folder / "fresh.psf").string());
+    user([] { enterName("other.dat"); });
+    EXPECT_EQ(save(), (m_folder / "other.dat").string());
+    user([] { tapKey("Escape"); });
+    EXPECT_EQ(save(), std::nullopt);
+}
+
+TEST_F(FileDialogs, AnExistingFileIsReplacedOnlyWhenTheUserSaysSo) {
+    std::unique_ptr<MainLoop::Subscription> answer;
+    user([&] {
+        enterName("old");
+        // The question comes up; No is its default, and the dialog is back.
+        answer = application().mainLoop().after(std::chrono::milliseconds{400}, [&] {
+            tapKey("Return");
+            user([&] {
+                enterName("old");
+                answer =
+                    application().mainLoop().after(std::chrono::milliseconds{400}, [] { tapKey("alt+y"); });
+            });
+        });
+    });
+    EXPECT_EQ(save(), (m_folder / "old.psf").string());
+}
+
+TEST_F(FileDialogs, OnlyAFileThatExistsIsOpened) {
+    user([] { enterName("old.psf"); });
+    EXPECT_EQ(open(), (m_folder / "old.psf").string());
+    user([] { tapKey("Escape"); });
+    EXPECT_EQ(open(), std::nullopt);
+}
+
+TEST_F(FileDialogs, EndingTheWindowsRunCancelsTheDialog) {
+    std::optional<std::string> chosen = "none yet";
+    application().mainLoop().post([&] { chosen = open(); });
+    user([&] { m_window.endModal(IDCANCEL); });
+    EXPECT_EQ(m_window.runModal(), IDCANCEL);
+    EXPECT_EQ(chosen, std::nullopt);
+}
+
+} // namespace
+} // namespace tarnix::testing

@@ -29,14 +29,25 @@ QImage withKeyTransparent(const QImage& image, Color key) {
 
 } // namespace
 
-Picture::Picture(QImage pixels, int scale) : m_pixels(paintedQuickly(std::move(pixels))), m_scale(scale) {}
-
-void Picture::addFiner(QImage pixels) {
-    m_finer = paintedQuickly(std::move(pixels));
+const QImage& StoredPixels::pixels() const {
+    if (!m_pixels.isNull()) return m_pixels;
+    if (m_stored.format == BuiltinImage::Format::Png) {
+        m_pixels = paintedQuickly(QImage::fromData(m_stored.data, static_cast<int>(m_stored.size), "PNG"));
+    } else {
+        const auto format = m_stored.opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied;
+        m_pixels = QImage(m_stored.data, m_stored.width, m_stored.height, m_stored.width * 4, format);
+    }
+    return m_pixels;
 }
 
-Size Picture::size() const {
-    return {m_pixels.width() / m_scale, m_pixels.height() / m_scale};
+Picture::Picture(QImage pixels, int scale)
+    : m_pixels(std::move(pixels)),
+      m_scale(scale),
+      m_size{m_pixels.width() / scale, m_pixels.height() / scale} {}
+
+Picture::Picture(const BuiltinImage& plain, const BuiltinImage* fine)
+    : m_plain(plain), m_scale(plain.scale), m_size{plain.width / plain.scale, plain.height / plain.scale} {
+    if (fine) m_fine.emplace(*fine);
 }
 
 Color Picture::pixel(Point at) const {
@@ -52,9 +63,10 @@ void Picture::readRow(int y, std::span<Color> colors) const {
 
 /// The colours from a point to the right; all of them must lie in the picture.
 void Picture::readColors(Point from, std::span<Color> colors) const {
+    const QImage& image = pixels();
     const auto* stored =
-        reinterpret_cast<const QRgb*>(m_pixels.constScanLine(from.y * m_scale)) + from.x * m_scale;
-    const bool opaque = m_pixels.format() == QImage::Format_RGB32;
+        reinterpret_cast<const QRgb*>(image.constScanLine(from.y * m_scale)) + from.x * m_scale;
+    const bool opaque = image.format() == QImage::Format_RGB32;
     for (Color& color : colors) {
         const QRgb plain = opaque ? *stored : qUnpremultiply(*stored);
         color = rgb(qRed(plain), qGreen(plain), qBlue(plain));
@@ -63,8 +75,8 @@ void Picture::readColors(Point from, std::span<Color> colors) const {
 }
 
 Picture::Pixels Picture::pixelsFor(qreal deviceScale) const {
-    if (deviceScale > 1 && !m_finer.isNull()) return {m_finer, 2.0 * m_scale};
-    return {m_pixels, static_cast<qreal>(m_scale)};
+    if (deviceScale > 1 && m_fine) return {m_fine->pixels(), static_cast<qreal>(m_fine->stored().scale)};
+    return {pixels(), static_cast<qreal>(m_scale)};
 }
 
 Picture::Pixels Picture::keyedFor(qreal deviceScale, Color key) const {

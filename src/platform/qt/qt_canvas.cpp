@@ -49,6 +49,19 @@ double QtCanvas::deviceScale() const {
     return m_painter.device()->devicePixelRatio();
 }
 
+void QtCanvas::copy(const QImage& pixels, const QRectF& source, const Rect& target) {
+    const qreal device = deviceScale();
+    const QRectF place = scaled(target, device);
+    if (device == 1 || place.size() != source.size()) {
+        m_painter.drawImage(QRectF(toQt(target)), pixels, source);
+        return;
+    }
+    // Pixel by pixel the copy is many times faster than through the toolkit's scaling up and down.
+    m_painter.setWorldTransform(QTransform::fromScale(1 / device, 1 / device));
+    m_painter.drawImage(place, pixels, source);
+    m_painter.resetTransform();
+}
+
 void QtCanvas::fill(const Rect& area, Color color) {
     if (!area.empty()) m_painter.fillRect(toQt(area), toQt(color));
 }
@@ -57,15 +70,14 @@ void QtCanvas::draw(const Image& image, const Rect& source, const Rect& target, 
     if (source.empty() || target.empty() || opacity <= 0) return;
     const auto [pixels, scale] = pictureOf(image).pixelsFor(deviceScale());
     if (opacity < 255) m_painter.setOpacity(opacity / 255.0);
-    m_painter.drawImage(QRectF(toQt(target)), pixels, scaled(source, scale));
+    copy(pixels, scaled(source, scale), target);
     if (opacity < 255) m_painter.setOpacity(1);
 }
 
 void QtCanvas::drawKeyed(const Image& image, const Rect& source, Point target, Color key) {
     if (source.empty()) return;
     const auto [pixels, scale] = pictureOf(image).keyedFor(deviceScale(), key);
-    const QRect place(toQt(target), QSize(source.width(), source.height()));
-    m_painter.drawImage(QRectF(place), pixels, scaled(source, scale));
+    copy(pixels, scaled(source, scale), Rect::at(target.x, target.y, source.width(), source.height()));
 }
 
 void QtCanvas::drawText(std::string_view text, const Rect& area, const TextFormat& format) {

@@ -3,7 +3,9 @@
 
 #include "platform/canvas.h"
 
+class QImage;
 class QPainter;
+class QRectF;
 
 namespace tarnix {
 
@@ -19,6 +21,8 @@ class QtCanvas : public Canvas {
 
   private:
     double deviceScale() const;
+    /// `source` in stored pixels.
+    void copy(const QImage& pixels, const QRectF& source, const Rect& target);
 
     QPainter& m_painter;
 };

@@ -10,13 +10,6 @@ namespace tarnix {
 
 namespace {
 
-QImage pixelsOf(const BuiltinImage& stored) {
-    if (stored.format == BuiltinImage::Format::Png)
-        return QImage::fromData(stored.data, static_cast<int>(stored.size), "PNG");
-    const auto format = stored.opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied;
-    return QImage(stored.data, stored.width, stored.height, stored.width * 4, format);
-}
-
 class BuiltinResources : public Resources {
   public:
     BuiltinResources() {
@@ -48,9 +41,7 @@ Resources* g_source = nullptr;
 } // namespace
 
 std::unique_ptr<Image> makeImage(const BuiltinImage& plain, const BuiltinImage* fine) {
-    auto picture = std::make_unique<Picture>(pixelsOf(plain), plain.scale);
-    if (fine) picture->addFiner(pixelsOf(*fine));
-    return picture;
+    return std::make_unique<Picture>(plain, fine);
 }
 
 Resources& resources() {

@@ -7,6 +7,7 @@
 #include "file_dialogs.h"
 #include "modal_runs.h"
 #include "platform/linux/launch.h"
+#include "platform/window.h"
 #include "text_decoding.h"
 
 namespace tarnix {
@@ -22,7 +23,7 @@ void openByDesktop(const std::string& target) {
 class QtShell : public Shell {
   public:
     void messageBox(const std::string& text) override {
-        QMessageBox box(QMessageBox::NoIcon, {}, decodeText(text), QMessageBox::Ok);
+        QMessageBox box(QMessageBox::NoIcon, programTitle, decodeText(text), QMessageBox::Ok);
         box.setTextFormat(Qt::PlainText);
         box.setWindowRole(QStringLiteral("MessageBox"));
         runModally(box);

@@ -1,10 +1,11 @@
 #include "virtual/launcher_child.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <csignal>
 
 namespace tarnix {
 namespace {
@@ -28,6 +29,7 @@ constexpr int notStarted = 127;
 LauncherChild::LauncherChild(const std::vector<std::string>& program, std::function<void(int)> ended)
     : m_ended(std::move(ended)) {
     std::vector<char*> arguments;
+    arguments.reserve(program.size() + 1);
     for (const std::string& word : program)
         arguments.push_back(const_cast<char*>(word.c_str()));
     arguments.push_back(nullptr);

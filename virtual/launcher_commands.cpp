@@ -141,7 +141,8 @@ bool seed(Launcher& launcher, Words words) {
     macro.stepCount = static_cast<std::uint8_t>(steps->steps.size() / macroReport::stepLength);
     std::copy(steps->steps.begin(), steps->steps.end(), macro.steps.begin());
     constexpr std::array<std::uint8_t, 3> macroValue{0x01, 0x00, 0x00};
-    std::copy(macroValue.begin(), macroValue.end(), held.gKeys.begin() + (*gKey - 1) * 3);
+    std::copy(macroValue.begin(), macroValue.end(),
+              held.gKeys.begin() + (*gKey - 1) * static_cast<std::ptrdiff_t>(macroValue.size()));
     return true;
 }
 

@@ -37,13 +37,14 @@ class EchoFunction final : public BusFunction {
 
 /// A bus whose main loop runs on a thread of its own, as the launcher is a process of its own.
 class HidTest : public testing::Test {
-  protected:
+  public:
     ~HidTest() override {
         onBus([&] { plugs.clear(), bus.reset(); });
         g_main_loop_quit(m_loop.get());
         m_thread.join();
     }
 
+  protected:
     void onBus(std::function<void()> work) {
         std::packaged_task<void()> task(std::move(work));
         g_idle_add(

@@ -56,7 +56,7 @@ std::vector<HidInterface> enumerateNodes() {
         const auto device = std::filesystem::canonical(sysfsFolder(node.path) + "/device", error);
         // The HID device's own folder is numbered anew at every plugging; its parent is the place on the bus.
         const std::string name = nodeName(node.path);
-        nodes.push_back({{device.parent_path().string(), name.size(), name}, std::move(node)});
+        nodes.emplace_back(Place{device.parent_path().string(), name.size(), name}, std::move(node));
     }
     hid_free_enumeration(list);
     std::sort(nodes.begin(), nodes.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
@@ -64,6 +64,7 @@ std::vector<HidInterface> enumerateNodes() {
                             [](const auto& a, const auto& b) { return a.second.path == b.second.path; }),
                 nodes.end());
     std::vector<HidInterface> result;
+    result.reserve(nodes.size());
     for (auto& [place, node] : nodes)
         result.push_back(std::move(node));
     return result;

@@ -1,7 +1,6 @@
 #include "platform/linux/launch.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -9,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <string_view>
 
 #include "platform/linux/file_descriptor.h"

@@ -31,7 +31,7 @@ struct BuiltinImage {
 };
 
 /// A picture over stored pixels, which must outlive it; `fine` is the same picture at scale 2, or none. A PNG
-/// file is decoded here.
+/// file is decoded when it is first painted or read.
 std::unique_ptr<Image> makeImage(const BuiltinImage& plain, const BuiltinImage* fine = nullptr);
 
 /// All of them, in any order. No picture is listed at scale 2 alone.

@@ -13,7 +13,7 @@ CAttentionDlg::CAttentionDlg(std::string title, std::string message, Window* own
     : CFormDlg({"CAttentionDlg", wideSize, notice::background, notice::controls}, owner),
       m_strTitle(std::move(title)),
       m_strMessage(std::move(message)) {
-    m_messages.onClick(okButton, [this] { endModal(IDOK); });
+    m_messages.onClick(okButton, [this] { end(IDOK); });
 }
 
 void CAttentionDlg::BuildControls(const Rect& client) {
@@ -23,7 +23,7 @@ void CAttentionDlg::BuildControls(const Rect& client) {
 }
 
 void CAttentionDlg::OnEnter() {
-    endModal(IDOK);
+    end(IDOK);
 }
 
 void showNotice(std::string_view message) {

@@ -10,7 +10,7 @@ using namespace dialog;
 CEditProfileDlg::CEditProfileDlg(Shell& shell, Window* owner)
     : CFormDlg({"CEditProfileDlg", profile::size, profile::background, profile::controls}, owner),
       m_shell(shell) {
-    m_messages.onClick(okButton, [this] { endModal(IDOK); })
+    m_messages.onClick(okButton, [this] { end(IDOK); })
         .onClick(profile::browse1, [this] { browse(profile::path1); })
         .onClick(profile::browse2, [this] { browse(profile::path2); })
         .onClick(profile::browse3, [this] { browse(profile::path3); });

@@ -8,7 +8,7 @@ using namespace dialog;
 
 CFirmwareResetDlg::CFirmwareResetDlg(unsigned background, Window* owner)
     : CFormDlg({"CFirmwareResetDlg", wideSize, background, reset::controls}, owner) {
-    m_messages.onClick(okButton, [this] { endModal(IDOK); });
+    m_messages.onClick(okButton, [this] { end(IDOK); });
 }
 
 } // namespace tarnix

@@ -137,7 +137,7 @@ void CKeyMapSettingDlg::chooseMouseFunction(const SelectionRecord& record) {
 }
 
 void CKeyMapSettingDlg::accept() {
-    endModal(IDOK);
+    if (!end(IDOK)) return;
     const bool mouse = (g_nRadioMask & radioBit(keymap::mouseRadio)) != 0;
     if (owner()) owner()->send(msg::keyCodeChosen, m_key.id, mouse ? m_nMouseCode : m_nKeyCode);
 }

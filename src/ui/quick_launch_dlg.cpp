@@ -26,8 +26,7 @@ void CQuickLaunchDlg::browse() {
 }
 
 void CQuickLaunchDlg::accept() {
-    OnCancel();
-    if (!owner() || m_strPath.empty()) return;
+    if (!end(IDCANCEL) || !owner() || m_strPath.empty()) return;
     m_record.bytes = {static_cast<std::uint8_t>(FunctionType::Launch), 0, 0, 0};
     const Sent<std::string> path(m_strPath);
     sendSelection(*owner(), msg::launchChosen, path.word(), m_record);

@@ -14,16 +14,16 @@ namespace {
 
 struct Modifier {
     unsigned box;
-    const char* text;
     std::uint8_t bit; ///< in parameter 1 of a key combination
+    const char* text;
 };
 
 /// In the order in which a combination is written.
 constexpr Modifier modifiers[] = {
-    {shortcut::ctrl, "Ctrl+", 0x01},
-    {shortcut::shift, "Shift+", 0x02},
-    {shortcut::alt, "Alt+", 0x04},
-    {shortcut::win, "Win+", 0x08},
+    {shortcut::ctrl, 0x01, "Ctrl+"},
+    {shortcut::shift, 0x02, "Shift+"},
+    {shortcut::alt, 0x04, "Alt+"},
+    {shortcut::win, 0x08, "Win+"},
 };
 
 } // namespace
@@ -81,12 +81,10 @@ void CShortcutDlg::takeModifiers() {
 }
 
 void CShortcutDlg::accept() {
-    if (owner()) {
-        takeModifiers();
-        if (m_record.text.ends_with('+')) m_record.text.pop_back();
-        if (!m_record.text.empty()) sendSelection(*owner(), msg::shortcutChosen, 0, m_record);
-    }
-    OnCancel();
+    if (!end(IDCANCEL) || !owner()) return;
+    takeModifiers();
+    if (m_record.text.ends_with('+')) m_record.text.pop_back();
+    if (!m_record.text.empty()) sendSelection(*owner(), msg::shortcutChosen, 0, m_record);
 }
 
 } // namespace tarnix

@@ -7,8 +7,7 @@
 namespace tarnix {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
 
 constexpr MacroEditorIds ids{.newMacro = 2100,
                              .deleteMacro = 2101,
@@ -31,42 +30,45 @@ constexpr Rect macroRect = Rect::at(0, 0, 100, 80);
 constexpr Rect actionRect = Rect::at(130, 0, 100, 80);
 constexpr Point elsewhere{300, 150};
 
-/// Tells what the editor asks of its window, in order.
-class LoggingEditor : public MacroEditor {
+std::string refused(MacroRefusal refusal) {
+    return "refused " + std::to_string(static_cast<int>(refusal));
+}
+
+/// Notes what the editor asks of its window, in order.
+class NotingEditor : public MacroEditor {
   public:
     using MacroEditor::MacroEditor;
-
-    std::vector<std::string> log;
+    std::vector<std::string> notes;
     std::string protectedName;
 
   protected:
-    void onRefusal(MacroRefusal refusal) override {
-        log.push_back("refused " + std::to_string(int(refusal)));
-    }
-    void onRecordingFull(std::string_view notice) override { log.emplace_back(notice); }
-    void onLibraryChanged() override { log.emplace_back("changed"); }
+    void onRefusal(MacroRefusal refusal) override { notes.push_back(refused(refusal)); }
+    void onRecordingFull(std::string_view notice) override { notes.emplace_back(notice); }
+    void onLibraryChanged() override { notes.emplace_back("changed"); }
     bool isDeletable(const MacroKey& macro) override { return macro.name != protectedName; }
-    void onRecorded() override { log.emplace_back("recorded"); }
-    void onRecordingEnded() override { log.emplace_back("ended"); }
+    void onRecorded() override { notes.emplace_back("recorded"); }
+    void onRecordingEnded() override { notes.emplace_back("ended"); }
 };
-
-std::string refused(MacroRefusal refusal) {
-    return "refused " + std::to_string(int(refusal));
-}
 
 class EditorWindow : public CDlgBase {
   public:
-    EditorWindow(MacroLibrary& source, const MacroEditorRules& rules)
-        : CDlgBase({.role = "EditorWindow"}, {400, 160}), library(source), editor(*this, source, ids, rules) {
+    EditorWindow(const MacroEditorRules& rules, const std::vector<std::string>& macros)
+        : CDlgBase({.role = "EditorWindow"}, {400, 160}),
+          library(libraryOf("Set", macros)),
+          editor(*this, library, ids, rules) {
         editor.registerHandlers(m_messages);
     }
     void OnLButtonDown(unsigned flags, Point at) override {
         editor.pressAt(at);
         if (at != elsewhere) CDlgBase::OnLButtonDown(flags, at); // which would start moving the window
     }
+    void play(const std::function<void()>& steps) {
+        playIn(*this, [&](UiScenario& ui) { ui.run(steps); });
+    }
+    bool disabled(unsigned id) const { return GetControl(id)->m_bDisabled; }
 
-    MacroLibrary& library;
-    LoggingEditor editor;
+    MacroLibrary library;
+    NotingEditor editor;
 
   protected:
     void BuildControls(const Rect&) override {
@@ -79,186 +81,151 @@ class EditorWindow : public CDlgBase {
     }
 };
 
-/// Opens the name field, types, and does something that commits the name.
-void nameMacro(UiScenario& ui, EditorWindow& window, const std::string& name,
-               const std::function<void()>& commit) {
+/// Opens the name field unless it is open, types the name, does what ends naming, and answers what stands in
+/// the field then; "-" when it is closed.
+std::string nameMacro(UiScenario& ui, EditorWindow& window, const std::string& name,
+                      const std::function<void()>& end) {
     ui.run([&] {
         if (!window.editor.isNaming()) clickControl(window, ids.newMacro);
     });
-    if (name.empty()) {
-        ui.run(commit);
-        return;
+    if (!name.empty()) {
+        EXPECT_TRUE(UiScenario::windowShown("EditorWindow", {400, 160}));
+        UiScenario::keys("ctrl+a");
+        UiScenario::type(name);
     }
-    UiScenario::keys("ctrl+a");
-    UiScenario::type(name);
     EXPECT_TRUE(ui.until([&] { return window.editor.macros().editorText() == name; })) << name;
-    ui.run(commit);
+    std::string left;
+    ui.run([&] {
+        end();
+        left = window.editor.isNaming() ? window.editor.macros().editorText() : "-";
+    });
+    return left;
 }
 
-TEST(MacroEditor, NamingByAClickElsewhereChecksTheNameOnThePageAndAlwaysClosesTheField) {
-    MacroLibrary library = libraryOf("Set", {"Fire"});
-    EditorWindow window(library, macroPageRules);
-    const auto clickElsewhere = [&] { clickAt(window, elsewhere); };
-    playIn(window, [&](UiScenario& ui) {
-        for (const char* name : {"Fire", "ThirteenChars", "TwelveChars_", ""}) {
-            nameMacro(ui, window, name, clickElsewhere);
-            ui.run([&] { EXPECT_FALSE(window.editor.isNaming()) << name; });
-        }
+TEST(MacroEditor, NamingByAClickElsewhereChecksTheNameOnThePageButNotInTheManager) {
+    EditorWindow page(macroPageRules, {"Fire"});
+    playIn(page, [&](UiScenario& ui) {
+        for (const char* name : {"Fire", "ThirteenChars", "TwelveChars_", ""})
+            EXPECT_EQ(nameMacro(ui, page, name, [&] { clickAt(page, elsewhere); }), "-") << name;
     });
-    EXPECT_THAT(window.editor.log,
+    EXPECT_THAT(page.editor.notes,
                 ElementsAre(refused(MacroRefusal::NameTaken), refused(MacroRefusal::NameTooLong), "changed"));
-    EXPECT_THAT(macroNames(library), ElementsAre("Fire", "TwelveChars_"));
-}
+    EXPECT_THAT(macroNames(page.library), ElementsAre("Fire", "TwelveChars_"));
 
-TEST(MacroEditor, NamingByAClickElsewhereTakesAnyNameInTheManager) {
-    MacroLibrary library = libraryOf("Set", {"Fire"});
-    EditorWindow window(library, managerRules);
-    playIn(window, [&](UiScenario& ui) {
-        nameMacro(ui, window, "Fire", [&] { clickAt(window, elsewhere); });
-        // The press on the button commits the name, and its release opens the field for the next one.
-        nameMacro(ui, window, "ThirteenChars", [&] { clickControl(window, ids.newMacro); });
-        ui.run([&] { EXPECT_TRUE(window.editor.isNaming()); });
-        nameMacro(ui, window, "dropped", [&] { clickControl(window, ids.deleteMacro); });
-        ui.run([&] { EXPECT_FALSE(window.editor.isNaming()); });
+    EditorWindow manager(managerRules, {"Fire"});
+    playIn(manager, [&](UiScenario& ui) {
+        nameMacro(ui, manager, "Fire", [&] { clickAt(manager, elsewhere); });
+        EXPECT_EQ(nameMacro(ui, manager, "ThirteenChars", [&] { clickControl(manager, ids.newMacro); }), "")
+            << "the press commits, the release opens the field anew";
+        EXPECT_EQ(nameMacro(ui, manager, "dropped", [&] { clickControl(manager, ids.deleteMacro); }), "-");
     });
-    EXPECT_THAT(macroNames(library), ElementsAre("Fire", "ThirteenChars"))
-        << "the delete button took the first one";
+    EXPECT_THAT(macroNames(manager.library), ElementsAre("Fire", "ThirteenChars"))
+        << "the first one was deleted";
 }
 
 TEST(MacroEditor, ANameThatTheListRefusesStaysInItsFieldForCorrection) {
-    MacroLibrary library = libraryOf("Set", {"Fire"});
-    EditorWindow window(library, macroPageRules);
-    const auto clickList = [&] { clickControl(window, ids.macroList); };
-    playIn(window, [&](UiScenario& ui) {
-        for (const char* name : {"Fire", "ThirteenChars"}) {
-            nameMacro(ui, window, name, clickList);
-            ui.run([&] { EXPECT_EQ(window.editor.macros().editorText(), name); });
-        }
-        nameMacro(ui, window, "kept", [&] { clickControl(window, ids.deleteMacro); });
-        ui.run([&] { EXPECT_EQ(window.editor.macros().editorText(), "kept") << "while the page deletes"; });
-        nameMacro(ui, window, "Ice", clickList);
-        ui.run([&] { EXPECT_FALSE(window.editor.isNaming()); });
+    EditorWindow page(macroPageRules, {"Fire"});
+    const auto clickList = [&] { clickControl(page, ids.macroList); };
+    playIn(page, [&](UiScenario& ui) {
+        EXPECT_EQ(nameMacro(ui, page, "Fire", clickList), "Fire");
+        EXPECT_EQ(nameMacro(ui, page, "ThirteenChars", clickList), "ThirteenChars");
+        EXPECT_EQ(nameMacro(ui, page, "kept", [&] { clickControl(page, ids.deleteMacro); }), "kept");
+        EXPECT_EQ(nameMacro(ui, page, "Ice", clickList), "-");
     });
-    EXPECT_THAT(window.editor.log, ElementsAre(refused(MacroRefusal::ListNameTaken),
+    EXPECT_THAT(page.editor.notes, ElementsAre(refused(MacroRefusal::ListNameTaken),
                                                refused(MacroRefusal::ListNameTooLong), "changed", "changed"));
-    EXPECT_THAT(macroNames(library), ElementsAre("Ice"));
+    EXPECT_THAT(macroNames(page.library), ElementsAre("Ice"));
 }
 
-TEST(MacroEditor, DeletingSparesAMacroInUseAndNeedsASelection) {
-    MacroLibrary library = libraryOf("Set", {"Fire", "Ice"});
-    EditorWindow window(library, macroPageRules);
-    window.editor.protectedName = "Fire";
-    playIn(window, [&](UiScenario& ui) {
-        ui.run([&] {
-            clickControl(window, ids.deleteMacro);
-            clickAt(window, {50, 30});
-            EXPECT_EQ(window.editor.shownMacro(), &library.sets[0].keys[1]);
-            clickControl(window, ids.deleteMacro);
-            EXPECT_EQ(window.editor.shownMacro(), nullptr);
-            clickControl(window, ids.deleteMacro);
-        });
+TEST(MacroEditor, SaysWhatItCannotDo) {
+    EditorWindow page(macroPageRules, {"Fire", "Ice"});
+    page.editor.protectedName = "Fire";
+    page.play([&] {
+        clickControl(page, ids.deleteMacro);
+        clickAt(page, {50, 30});
+        EXPECT_EQ(page.editor.shownMacro(), &page.library.sets[0].keys[1]);
+        clickControl(page, ids.deleteMacro);
+        EXPECT_EQ(page.editor.shownMacro(), nullptr);
+        clickControl(page, ids.deleteMacro);
+        clickControl(page, ids.recordSwitch);
+        EXPECT_FALSE(page.editor.isRecording());
+        ClearMacroLibrary(page.library);
+        clickControl(page, ids.newMacro);
+        EXPECT_FALSE(page.editor.isNaming());
     });
-    EXPECT_THAT(window.editor.log, ElementsAre(refused(MacroRefusal::MacroInUse), "changed",
-                                               refused(MacroRefusal::NothingToDelete)));
-    EXPECT_THAT(macroNames(library), ElementsAre("Fire"));
+    EXPECT_THAT(
+        page.editor.notes,
+        ElementsAre(refused(MacroRefusal::MacroInUse), "changed", refused(MacroRefusal::NothingToDelete),
+                    refused(MacroRefusal::NothingToRecord), refused(MacroRefusal::NoMacroSet)));
 }
 
-TEST(MacroEditor, WithoutAnySetNothingOpensAndTheWindowIsTold) {
-    MacroLibrary library;
-    EditorWindow window(library, macroPageRules);
-    playIn(window, [&](UiScenario& ui) {
-        ui.run([&] {
-            clickControl(window, ids.newMacro);
-            EXPECT_FALSE(window.editor.isNaming());
-            clickControl(window, ids.recordSwitch);
-            EXPECT_FALSE(window.editor.isRecording());
-        });
-    });
-    EXPECT_THAT(window.editor.log,
-                ElementsAre(refused(MacroRefusal::NoMacroSet), refused(MacroRefusal::NothingToRecord)));
-}
-
-TEST(MacroEditor, RecordingReplacesTheMacroWithAllOtherControlsDisabledUntilTheSwitchGoesOff) {
-    MacroLibrary library = libraryOf("Set", {"Fire"});
-    MacroKey& macro = library.sets[0].keys[0];
+TEST(MacroEditor, RecordingReplacesTheMacroWithTheOtherControlsDisabled) {
+    EditorWindow page(macroPageRules, {"Fire"});
+    MacroKey& macro = page.library.sets[0].keys[0];
     AppendAction(macro, MacroAction::key(0x5A, false));
-    EditorWindow window(library, macroPageRules);
-    playIn(window, [&](UiScenario& ui) {
-        ui.run([&] {
-            clickControl(window, ids.recordSwitch);
-            EXPECT_EQ(macro.actionCount, 0U);
-            for (const unsigned id : {ids.newMacro, ids.macroList, ids.actionList, ids.actionScrollBar})
-                EXPECT_TRUE(window.GetControl(id)->m_bDisabled) << id;
-            clickControl(window, ids.recordDelays);
-            for (unsigned i = 0; i < 3; ++i)
-                hookEvent(window, 0x41 + i, 100 * i);
-            EXPECT_EQ(window.editor.actions().m_nFirstRow, 1) << "four rows show the last of five actions";
-            clickControl(window, ids.recordSwitch);
-            for (const unsigned id : {ids.newMacro, ids.macroList, ids.recordDelays})
-                EXPECT_FALSE(window.GetControl(id)->m_bDisabled) << id;
-        });
+    page.play([&] {
+        clickControl(page, ids.recordSwitch);
+        EXPECT_EQ(macro.actionCount, 0U);
+        EXPECT_TRUE(page.disabled(ids.newMacro) && page.disabled(ids.macroList) &&
+                    page.disabled(ids.actionScrollBar));
+        clickControl(page, ids.recordDelays);
+        for (unsigned i = 0; i < 3; ++i)
+            hookEvent(page, 0x41 + i, 100 * i);
+        EXPECT_EQ(page.editor.actions().m_nFirstRow, 1) << "four rows show the last of five actions";
+        clickControl(page, ids.recordSwitch);
+        EXPECT_FALSE(page.disabled(ids.newMacro) || page.disabled(ids.macroList) ||
+                     page.disabled(ids.recordDelays));
     });
     EXPECT_THAT(macro.usedActions(), ElementsAre(MacroAction::key(0x41, false), MacroAction::delay(100),
                                                  MacroAction::key(0x42, false), MacroAction::delay(100),
                                                  MacroAction::key(0x43, false)));
-    EXPECT_THAT(window.editor.log, ElementsAre("recorded", "recorded", "recorded", "ended"));
+    EXPECT_THAT(page.editor.notes, ElementsAre("recorded", "recorded", "recorded", "ended"));
 }
 
-TEST(MacroEditor, AFullMacroEndsItsRecordingOnThePageBeforeTheNotice) {
-    MacroLibrary library = libraryOf("Set", {"Fire"});
-    EditorWindow window(library, macroPageRules);
-    playIn(window, [&](UiScenario& ui) {
-        ui.run([&] {
-            clickControl(window, ids.recordSwitch);
-            for (unsigned i = 0; i < 100; ++i)
-                hookEvent(window, 0x41 + i % 2, i);
-            window.editor.log.clear();
-            hookEvent(window, 0x5A, 1000);
-            EXPECT_FALSE(window.editor.isRecording());
-            EXPECT_FALSE(window.GetControl(ids.newMacro)->m_bDisabled);
-            hookEvent(window, 0x5B, 1001);
-        });
+TEST(MacroEditor, AFullMacroEndsItsRecordingBeforeTheNotice) {
+    EditorWindow page(macroPageRules, {"Fire"});
+    page.play([&] {
+        clickControl(page, ids.recordSwitch);
+        for (unsigned i = 0; i < 100; ++i)
+            hookEvent(page, 0x41 + i % 2, i);
+        page.editor.notes.clear();
+        hookEvent(page, 0x5A, 1000);
+        EXPECT_FALSE(page.editor.isRecording() || page.disabled(ids.newMacro));
+        hookEvent(page, 0x5B, 1001);
     });
-    EXPECT_THAT(window.editor.log,
+    EXPECT_THAT(page.editor.notes,
                 ElementsAre("ended", "The number of action if full!", "recorded", "recorded"))
-        << "a straggler changes nothing and brings no second notice";
-    EXPECT_EQ(library.sets[0].keys[0].actionCount, 100U);
+        << "a straggler brings no second notice";
+    EXPECT_EQ(page.library.sets[0].keys[0].actionCount, 100U);
 }
 
 TEST(MacroEditor, WheelAndScrollBarMoveTheListWithinItsRows) {
-    MacroLibrary library = libraryOf("Set", {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"});
-    EditorWindow window(library, macroPageRules);
-    playIn(window, [&](UiScenario& ui) {
-        ui.run([&] {
-            int& first = window.editor.macros().m_nFirstRow;
-            auto* bar = window.control<CVScrollBar>(ids.macroScrollBar);
-            window.editor.onMouseWheel(-120);
-            EXPECT_EQ(first, 0) << "the pointer is over neither list";
-            window.OnMouseMove(0, {50, 50});
-            window.editor.onMouseWheel(120);
-            EXPECT_EQ(first, 0);
-            window.editor.onMouseWheel(-120);
-            EXPECT_EQ(first, 1);
-            EXPECT_EQ(bar->position(), 1);
-            const auto press = [&](unsigned part) { window.send(ids.macroScrollBar, part, NOTIFY_DOWN); };
-            press(CVScrollBar::partBelow);
-            EXPECT_EQ(first, 5);
-            press(CVScrollBar::partBelow);
-            EXPECT_EQ(first, 6) << "ten rows, four on the screen";
-            window.editor.onMouseWheel(-120);
-            EXPECT_EQ(first, 6);
-            press(CVScrollBar::partUp);
-            press(CVScrollBar::partThumb);
-            EXPECT_EQ(first, 5);
-            press(CVScrollBar::partAbove);
-            press(CVScrollBar::partAbove);
-            EXPECT_EQ(first, 0);
-            bar->SetScrollState(3, 4, 10);
-            window.send(ids.macroScrollBar, 0, NOTIFY_DRAG);
-            EXPECT_EQ(first, 3);
-        });
+    EditorWindow page(macroPageRules, {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"});
+    page.play([&] {
+        std::vector<int> rows;
+        const auto note = [&] { rows.push_back(page.editor.macros().m_nFirstRow); };
+        const auto turn = [&](int delta) {
+            page.editor.onMouseWheel(delta);
+            note();
+        };
+        const auto press = [&](unsigned part) {
+            page.send(ids.macroScrollBar, part, NOTIFY_DOWN);
+            note();
+        };
+        turn(-120); // over neither list
+        page.OnMouseMove(0, {50, 50});
+        for (const int delta : {120, -120})
+            turn(delta);
+        for (const unsigned part : {CVScrollBar::partBelow, CVScrollBar::partBelow, CVScrollBar::partDown})
+            press(part);
+        turn(-120);
+        for (const unsigned part : {CVScrollBar::partUp, CVScrollBar::partThumb, CVScrollBar::partAbove})
+            press(part);
+        page.control<CVScrollBar>(ids.macroScrollBar)->SetScrollState(3, 4, 10);
+        page.send(ids.macroScrollBar, 0, NOTIFY_DRAG);
+        note();
+        EXPECT_THAT(rows, ElementsAre(0, 0, 1, 5, 6, 6, 6, 5, 5, 1, 3)) << "ten rows, four on the screen";
     });
-    EXPECT_THAT(window.editor.log, IsEmpty());
 }
 
 } // namespace

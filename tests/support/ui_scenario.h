@@ -11,13 +11,10 @@
 #include <string>
 #include <thread>
 
-#include "platform/main_loop.h"
 #include "skin/dlg_base.h"
+#include "support/desktop_driver.h"
 
 namespace tarnix {
-
-/// The user-interface thread's loop; see window_main.cpp.
-MainLoop& testLoop();
 
 /// Moves the pointer to a point of the window, presses and releases, as far as the window can tell.
 inline void clickAt(Window& window, Point at) {
@@ -36,7 +33,7 @@ class UiScenario {
     /// Hands work to the user-interface thread; for work that opens a dialog and comes back when that is
     /// closed.
     void start(std::function<void()> work) {
-        testLoop().post([work = std::move(work), over = m_over] {
+        testing::application().mainLoop().post([work = std::move(work), over = m_over] {
             if (!*over) work();
         });
     }
@@ -74,40 +71,32 @@ class UiScenario {
         return std::system(("xdotool type '" + text + "'").c_str()) == 0;
     }
 
-    /// Waits until a visible window of the program has this role, which is its class's name, and this size.
+    /// Waits until the window that has the keyboard has this role, which is its class's name, and this size.
     static bool windowShown(const std::string& role, Size size) {
-        const std::string look =
-            "for w in $(xdotool search --onlyvisible --name '^Tarnix Keyboard$' 2>/dev/null); do"
-            " xprop -id $w WM_WINDOW_ROLE; xdotool getwindowgeometry $w; done 2>/dev/null |"
-            " grep -A 4 '\"" +
-            role + "\"' | grep -q 'Geometry: " + std::to_string(size.width) + "x" +
-            std::to_string(size.height) + "$'";
+        const std::string geometry = std::to_string(size.width) + "x" + std::to_string(size.height);
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
         while (std::chrono::steady_clock::now() < deadline)
-            if (std::system(look.c_str()) == 0) return true;
+            if (withFocused(role, "xdotool getwindowgeometry $w | grep -q 'Geometry: " + geometry + "$'"))
+                return true;
         return false;
     }
-    /// Waits for such a window and presses a key in it.
-    static bool answer(const std::string& role, Size size, const std::string& key) {
-        return windowShown(role, size) && keys(key);
-    }
-
-    /// Clicks with the pointer in the visible window with this role, in its client coordinates. False without
-    /// one.
+    /// Clicks with the pointer in the window that has the keyboard, in client coordinates. False when it has
+    /// another role.
     static bool clickWindow(const std::string& role, Point at) {
-        const std::string click =
-            "for w in $(xdotool search --onlyvisible --name '^Tarnix Keyboard$'); do"
-            " xprop -id $w WM_WINDOW_ROLE | grep -q '\"" +
-            role +
-            "\"' &&"
-            " exec xdotool mousemove --window $w " +
-            std::to_string(at.x) + ' ' + std::to_string(at.y) + " click 1; done 2>/dev/null; exit 1";
-        return std::system(click.c_str()) == 0;
+        return withFocused(role, "xdotool mousemove --window $w " + std::to_string(at.x) + ' ' +
+                                     std::to_string(at.y) + " click 1");
     }
 
     void end() { *m_over = true; }
 
   private:
+    /// Runs a shell command on the window $w. False when that has another role, or the command fails.
+    static bool withFocused(const std::string& role, const std::string& command) {
+        return std::system(("{ w=$(xdotool getwindowfocus) && xprop -id $w WM_WINDOW_ROLE | grep -q '\"" +
+                            role + "\"' && " + command + "; } 2>/dev/null")
+                               .c_str()) == 0;
+    }
+
     std::shared_ptr<std::atomic<bool>> m_over = std::make_shared<std::atomic<bool>>(false);
 };
 

@@ -26,10 +26,10 @@ void CSetNameDlg::OnDestroy() {
 }
 
 void CSetNameDlg::accept() {
+    if (!end(IDOK)) return;
     const std::string typed = m_field->text();
     const Sent<std::string> sent(typed);
     owner()->send(m_answer, 0, static_cast<LParam>(sent.word()));
-    endModal(IDOK);
 }
 
 CMacroManagerAddDlg::CMacroManagerAddDlg(Window& owner)
@@ -43,11 +43,11 @@ CMacroManagerDelSetDlg::CMacroManagerDelSetDlg(Window& owner)
                   manager::deleteSetByName, owner) {}
 
 CPictureNoticeDlg::CPictureNoticeDlg(const DialogForm& form, Window& owner) : CFormDlg(form, &owner) {
-    m_messages.onClick(manager::okButton, [this] { endModal(IDOK); });
+    m_messages.onClick(manager::okButton, [this] { end(IDOK); });
 }
 
 void CPictureNoticeDlg::OnEnter() {
-    endModal(IDOK);
+    end(IDOK);
 }
 
 CMacroManagerNoteDlg::CMacroManagerNoteDlg(Window& owner)

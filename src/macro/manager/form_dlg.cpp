@@ -12,6 +12,7 @@ CFormDlg::CFormDlg(const DialogForm& form, Window* owner)
 }
 
 void CFormDlg::OnInitDialog() {
+    m_ended = false;
     CDlgBase::OnInitDialog();
     if (m_form.shaped) SetShapeFromBitmap(m_form.background);
     LoadBackground(m_form.background);
@@ -19,6 +20,17 @@ void CFormDlg::OnInitDialog() {
 
 void CFormDlg::BuildControls(const Rect& client) {
     addControls(0, m_form.controls, client.topLeft());
+}
+
+void CFormDlg::OnCancel() {
+    end(IDCANCEL);
+}
+
+bool CFormDlg::end(int result) {
+    if (m_ended) return false;
+    m_ended = true;
+    endModal(result);
+    return true;
 }
 
 } // namespace tarnix

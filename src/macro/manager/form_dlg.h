@@ -15,7 +15,8 @@ struct DialogForm {
     bool shaped = false; ///< the background cuts the outline too
 };
 
-/// Its close button (2004) and Cancel (2011) end it with IDCANCEL.
+/// Its close button (2004) and Cancel (2011) end it with IDCANCEL. What the user does after the end, in the
+/// moment before the window goes, has no effect.
 class CFormDlg : public CDlgBase {
   public:
     CFormDlg(const DialogForm& form, Window* owner);
@@ -23,9 +24,13 @@ class CFormDlg : public CDlgBase {
   protected:
     void OnInitDialog() override;
     void BuildControls(const Rect& client) override;
+    void OnCancel() override;
+    /// Ends the modal run. False when it was ended before.
+    bool end(int result);
 
   private:
     DialogForm m_form;
+    bool m_ended = false;
 };
 
 } // namespace tarnix

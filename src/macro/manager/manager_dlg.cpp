@@ -110,8 +110,7 @@ int CMacroManagerDlg::selectedSet() const {
 }
 
 void CMacroManagerDlg::save() {
-    SaveManagerLibrary(m_library, m_files, m_strAppDir);
-    endModal(IDOK);
+    if (end(IDOK)) SaveManagerLibrary(m_library, m_files, m_strAppDir);
 }
 
 // The list of sets.

@@ -19,6 +19,9 @@ std::unique_ptr<CWndPopup> makeMacroList(MacroLibrary& library) {
     return std::make_unique<CMacroLibraryPopup>(library);
 }
 
+/// Where a macro set list stands, counted from the field's bottom right corner: beside the list of macros.
+constexpr Rect macroSetFromCorner{146, -2, 446, 298};
+
 /// Kinds of the macro set lists count from here.
 constexpr LParam firstMacroSetKind = 100;
 
@@ -153,8 +156,8 @@ void FunctionMenu::openMacroSet(LParam number) {
     popups.closeMacroSets();
     const CWndPopup* menu = popups.at(PopupPlace::Category);
     const CComboButton* field = m_context.field(menu ? menu->tag() : id::gKeyField1);
-    const Rect beside =
-        field ? Rect::at(field->m_rect.right + 146, field->m_rect.bottom - 2, 300, 300) : Rect{};
+    if (!field) return;
+    const Rect beside = macroSetFromCorner.moved(field->m_rect.right, field->m_rect.bottom);
     popups.openMacroSet(std::make_unique<CMacroSetPopup>(m_context.macros, row), beside, row, row);
 }
 

@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <cstdio>
-#include <string>
 #include <utility>
 
 namespace tarnix {
@@ -41,7 +40,7 @@ void Progress::end() {
 void Progress::step(std::string_view name) {
     constexpr const char* clearedLine = "\r\033[K";
     if (m_terminal) writeText(stderr, clearedLine);
-    writeText(stderr, "[" + std::to_string(++m_step) + "/" + std::to_string(m_stepCount) + "] ");
+    std::fprintf(stderr, "[%d/%d] ", ++m_step, m_stepCount);
     writeText(stderr, name);
     m_lineOpen = true;
     if (!m_terminal) end();

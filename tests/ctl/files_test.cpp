@@ -1,0 +1,246 @@
+#include <random>
+#include <vector>
+
+#include "ctl_bench.h"
+#include "macro/macro_files.h"
+#include "profile/configuration_file.h"
+#include "profile/profile_file.h"
+#include "support/memory_files.h"
+
+namespace tarnix {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+MacroLibrary sampleLibrary() {
+    MacroLibrary library;
+    MacroSet& set = AddMacroSet(library, "Keyboard Macro Set");
+    MacroKey& macro = AddMacroKey(set, "Fire");
+    AppendAction(macro, MacroAction::key(0x41, false));
+    AppendAction(macro, MacroAction::delay(120));
+    AppendAction(macro, MacroAction::key(0x41, true));
+    macro.loopCount = 3;
+    macro.commandCount = 2;
+    AddMacroSet(library, "Empty");
+    return library;
+}
+
+ProfileRecord sampleProfile() {
+    ProfileRecord record;
+    resetProfileRecord(record, 1);
+    record.Settings[settingProfileName].Value = "\xCE\xD2 \x1B[31m"; // GB2312, and a terminal's colour
+    record.Settings[settingLightMode].Value = "99";
+    record.KeyCodes[17] = 0xC4;
+    record.GKeys[0] = {"A \"quoted\" \\ name", "", keyAssignment(FunctionType::KeyCombination, 0x03, 0x04)};
+    record.GKeys[1] = {"Fire", "", keyAssignment(FunctionType::Macro)};
+    record.GKeys[2] = {"prog", "/usr/bin/prog", keyAssignment(FunctionType::Launch)};
+    record.GKeys[3] = {"?", "", {0x02, 0x01, 0x00}};
+    return record;
+}
+
+ConfigPairs sampleConfiguration() {
+    ProfileStore store;
+    ResetConfig(store, "/home/u/kbd/");
+    return store.ConfigTable;
+}
+
+/// The text with a few faults of the kinds that editors, disks and users make.
+std::string mutated(std::string text, std::mt19937& random) {
+    const auto below = [&random](std::size_t limit) { return random() % std::max<std::size_t>(limit, 1); };
+    for (std::size_t fault = below(3); fault < 3 && !text.empty(); ++fault) {
+        const std::size_t at = below(text.size());
+        const std::size_t line = text.find('\n', at);
+        switch (below(7)) {
+            case 0:
+                text[at] = static_cast<char>(random());
+                break;
+            case 1:
+                text.erase(at, 1 + below(3));
+                break;
+            case 2:
+                text.insert(at, 1 + below(2), "=\n\r\t0A-\0["[below(9)]);
+                break;
+            case 3:
+                text.resize(at);
+                break;
+            case 4: // a line is lost
+                if (line != std::string::npos) text.erase(line, text.find('\n', line + 1) - line);
+                break;
+            case 5: // the value is lost
+                if (text.find('=', at) != std::string::npos) {
+                    const std::size_t value = text.find('=', at) + 1;
+                    text.erase(value, text.find('\n', value) - value);
+                }
+                break;
+            default:
+                text += "more=1\n";
+        }
+    }
+    return text;
+}
+
+/// Whether the program, having this text as its file, takes it for one of its own.
+bool programAccepts(const std::string& extension, const std::string& text) {
+    MemoryFiles files;
+    const std::string folder = "/p/";
+    files.contents = {{"/p/config\\config.ini", text},
+                      {"/p/config\\MacroLibraryFile.mlf", text},
+                      {"/p/x.psf", text},
+                      {"/p/x.mkf", text}};
+    ProfileStore store;
+    MacroLibrary library;
+    MacroKey macro;
+    store.SetSlotPath(1, "/p/x.psf");
+    if (extension == ".psf") return LoadProfileFile(store, 1, files);
+    if (extension == ".ini") return LoadConfig(store, files, folder);
+    if (extension == ".mlf") return LoadMacroLibrary(library, files, folder);
+    return readMacroKeyFile(macro, files, "/p/x.mkf");
+}
+
+class CtlFilesTest : public CtlBench {};
+
+TEST_F(CtlFilesTest, CheckAgreesWithTheProgramOnThousandsOfDamagedFilesAndTouchesNone) {
+    const MacroLibrary library = sampleLibrary();
+    const std::vector<std::pair<std::string, std::string>> good{
+        {".psf", formatProfile(sampleProfile())},
+        {".ini", formatConfiguration(sampleConfiguration())},
+        {".mlf", formatMacroLibrary(library, LibraryForm::Long)},
+        {".mkf", formatMacroKey(library.sets[0].keys[0])}};
+    std::mt19937 random(20221);
+    std::vector<std::string> texts;
+    std::string expected;
+    std::string names;
+    int accepted = 0;
+    constexpr int count = 2000;
+    for (int i = 0; i < count; ++i) {
+        const auto& [extension, text] = good[static_cast<std::size_t>(i) % good.size()];
+        const std::string name = std::to_string(i) + extension;
+        texts.push_back(mutated(text, random));
+        writeFile(name, texts.back());
+        names += ' ' + name;
+        const bool accepts = programAccepts(extension, texts.back());
+        accepted += accepts ? 1 : 0;
+        expected += name + (accepts ? " accepted\n" : " refused\n");
+    }
+    const Outcome outcome =
+        ctl("check" + names + " | sed 's/: .*, accepted$/ accepted/; s/: .*, refused, .*/ refused/'");
+    EXPECT_EQ(outcome.out, expected);
+    EXPECT_GT(accepted, count / 10);
+    EXPECT_LT(accepted, count * 9 / 10);
+    for (int i = 0; i < count; ++i)
+        ASSERT_EQ(fileText(std::to_string(i) + good[static_cast<std::size_t>(i) % 4].first),
+                  texts[static_cast<std::size_t>(i)]);
+    EXPECT_EQ(ctl("check 0.psf.bak 1.ini.bak").status, 6) << "set aside by nobody";
+}
+
+TEST_F(CtlFilesTest, CheckTellsTheKindByExtensionOrHeaderAndTheLineOfARefusal) {
+    const MacroLibrary library = sampleLibrary();
+    writeFile("a", formatProfile(sampleProfile()));
+    writeFile("b", formatConfiguration(sampleConfiguration()));
+    writeFile("c", formatMacroLibrary(library, LibraryForm::Long));
+    writeFile("d.MKF", formatMacroKey(library.sets[0].keys[0]));
+    Outcome outcome = ctl("check a b c d.MKF");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out,
+              "a: profile, accepted\nb: configuration, accepted\nc: macro library, accepted\n"
+              "d.MKF: macro key, accepted\n");
+
+    writeFile("short.mlf", formatMacroLibrary(library, LibraryForm::Short));
+    writeFile("e", "[Else]\n");
+    writeFile("f.psf", "[Setting]\nName=x\nLightMode\n");
+    outcome = ctl("check short.mlf e f.psf missing . a");
+    EXPECT_EQ(outcome.status, 6);
+    EXPECT_EQ(outcome.out,
+              "short.mlf: macro library, refused, line 10: the file ends too early "
+              "(this is the macro manager's short form)\n"
+              "e: refused, line 1: the header of none of the program's files\n"
+              "f.psf: profile, refused, line 3: not of the form key=value\n"
+              "missing: refused, it cannot be read\n.: refused, it cannot be read\n"
+              "a: profile, accepted\n");
+    EXPECT_EQ(outcome.error, "");
+}
+
+TEST_F(CtlFilesTest, ShowsEveryKindReadablyAndAsJsonWithoutSteeringTheTerminal) {
+    const MacroLibrary library = sampleLibrary();
+    writeFile("p.psf", formatProfile(sampleProfile()));
+    writeFile("c.ini", formatConfiguration(sampleConfiguration()));
+    writeFile("l.mlf", formatMacroLibrary(library, LibraryForm::Long));
+    writeFile("k.mkf", formatMacroKey(library.sets[0].keys[0]));
+
+    EXPECT_THAT(
+        ctl("show p.psf").out,
+        testing::AllOf(
+            StartsWith("profile: \xE6\x88\x91 \\x1B[31m\nlight:\n  mode: 99\n  brightness: 4 (100%)\n"),
+            HasSubstr("\nremapped:\n  - position: 17, factory: 192 (F1), code: 196 (F5)\n"),
+            HasSubstr("key: G1, name: A \"quoted\" \\ name, function: CTRL+SHIFT+A, value: 060304, url:\n"),
+            HasSubstr("name: Fire, function: macro, value: 010000"),
+            HasSubstr("function: program launch, value: 070000, url: /usr/bin/prog\n"),
+            HasSubstr("function: unknown function, value: 020100")));
+    const std::string json = ctl("show --json p.psf").out;
+    EXPECT_THAT(
+        json,
+        StartsWith("{\n  \"profile\": \"\xE6\x88\x91 \\u001B[31m\",\n  \"light\": {\n    \"mode\": 99,\n"
+                   "    \"brightness\": {\"value\": 4, \"name\": \"100%\"},\n"));
+    EXPECT_THAT(json, HasSubstr("\"name\": \"A \\\"quoted\\\" \\\\ name\""));
+
+    EXPECT_THAT(ctl("show c.ini").out,
+                StartsWith("currentProfile: 0\nprofileFiles:\n  - /home/u/kbd/config\\default0.psf\n"));
+    const std::string actions = "- press: 65 (A)\n@- delay: 120\n@- release: 65 (A)\n";
+    const auto indented = [](std::string text, const std::string& blanks) {
+        for (std::size_t at = 0; (at = text.find('@')) != std::string::npos;)
+            text.replace(at, 1, blanks);
+        return text;
+    };
+    EXPECT_EQ(ctl("show k.mkf").out, "loops: 3\nkeyboardSteps: 2\nactions:\n  " + indented(actions, "  "));
+    EXPECT_EQ(ctl("show l.mlf").out,
+              "sets:\n  - set: Keyboard Macro Set\n    macros:\n"
+              "      - macro: Fire, loops: 3, keyboardSteps: 2\n        actions:\n          " +
+                  indented(actions, "          ") + "  - set: Empty\n    macros: none\n");
+    EXPECT_THAT(ctl("show --json l.mlf").out, HasSubstr("\"set\": \"Empty\",\n      \"macros\": []\n"));
+
+    writeFile("bad.psf", "[Setting]\n");
+    const Outcome refused = ctl("show bad.psf");
+    EXPECT_EQ(refused.status, 6);
+    EXPECT_EQ(refused.out, "");
+    EXPECT_EQ(refused.error, "tarnixctl: bad.psf: line 2: the file ends too early\n");
+}
+
+TEST_F(CtlFilesTest, WrongUsageAndUnwritableOutputHaveStatusesOfTheirOwn) {
+    writeFile("p.psf", formatProfile(sampleProfile()));
+    for (const char* wrong : {"",
+                              "chek p.psf",
+                              "check",
+                              "show",
+                              "show p.psf p.psf",
+                              "show --xml p.psf",
+                              "show --json=1 p.psf",
+                              "show --json --json p.psf",
+                              "doctor now",
+                              "read",
+                              "select",
+                              "select 0",
+                              "select 4",
+                              "select 1x",
+                              "write p.psf",
+                              "write --profile 1",
+                              "write p.psf --profile",
+                              "write p.psf --profile 4",
+                              "write p.psf --profile=",
+                              "monitor 1",
+                              "--json"}) {
+        const Outcome outcome = ctl(wrong);
+        EXPECT_EQ(outcome.status, 2) << wrong;
+        EXPECT_EQ(outcome.out, "") << wrong;
+        EXPECT_THAT(outcome.error, StartsWith("tarnixctl: ")) << wrong;
+    }
+    EXPECT_EQ(ctl("check -- --json").status, 6) << "a file's name after --";
+    EXPECT_EQ(shell("$CTL show p.psf > /dev/full").status, 1);
+    const Outcome help = ctl("write --help");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_THAT(help.out, HasSubstr("7 a transfer failed"));
+    EXPECT_THAT(ctl("--version").out, StartsWith("tarnixctl 1"));
+}
+
+} // namespace
+} // namespace tarnix

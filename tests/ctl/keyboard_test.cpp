@@ -1,0 +1,212 @@
+#include <unistd.h>
+
+#include "ctl_bench.h"
+#include "macro/macro_files.h"
+#include "platform/shell.h"
+#include "profile/profile_file.h"
+#include "support/launcher_process.h"
+
+namespace tarnix {
+namespace {
+
+using testing::ContainsRegex;
+using testing::HasSubstr;
+using testing::Not;
+
+const std::string seeded = "--seed-macro|2 6 Combo x3 04:00 04:80|--seed-macro|1 1 - 05:8F";
+
+class CtlKeyboardTest : public CtlBench {
+  protected:
+    /// The launcher with options, which bars separate, and a shell line that runs in the folder.
+    std::unique_ptr<LauncherProcess> start(const std::string& options, const std::string& line) {
+        std::vector<std::string> words;
+        std::istringstream list(options);
+        for (std::string word; std::getline(list, word, '|');)
+            words.push_back(word);
+        const std::string script = "cd " + folder.path().string() + " && { " + line + "; } > .out 2> .error";
+        for (const std::string& word : {std::string("--"), std::string("/bin/sh"), std::string("-c"), script})
+            words.push_back(word);
+        return std::make_unique<LauncherProcess>(words);
+    }
+
+    /// What went over the wire comes in `wire`.
+    Outcome withKeyboard(const std::string& options, const std::string& line) {
+        const auto launcher = start(options, line);
+        wire = launcher->rest();
+        return {launcher->status(), fileText(".out"), fileText(".error")};
+    }
+
+    void writeSample() {
+        ProfileRecord record;
+        resetProfileRecord(record, 0);
+        record.Settings[settingLightMode].Value = "5";
+        record.KeyCodes[17] = 0xC4;
+        MacroLibrary library;
+        MacroSet& set = AddMacroSet(library, "Keyboard Macro Set");
+        for (std::size_t s = 0; s < record.GKeys.size(); ++s) {
+            const std::string name = "M" + std::to_string(s);
+            record.GKeys[s] = {name, "", keyAssignment(FunctionType::Macro)};
+            AppendAction(AddMacroKey(set, name), MacroAction::key(0x41, false));
+        }
+        writeFile("p.psf", formatProfile(record));
+        writeFile("l.mlf", formatMacroLibrary(library, LibraryForm::Long));
+        RemoveMacroKey(set, 3);
+        writeFile("less.mlf", formatMacroLibrary(library, LibraryForm::Long));
+    }
+
+    std::string wire;
+};
+
+TEST_F(CtlKeyboardTest, DoctorTellsNoKeyboardNoRightsInUseSilentAndWorkingApart) {
+    Outcome outcome = withKeyboard("--unplugged", "$CTL doctor");
+    EXPECT_EQ(outcome.status, 3);
+    EXPECT_THAT(outcome.out, HasSubstr("No keyboard is attached"));
+
+    outcome = withKeyboard("", "$CTL doctor");
+    EXPECT_EQ(outcome.status, 0) << outcome.out;
+    EXPECT_THAT(outcome.out, ContainsRegex("/dev/hidraw0  keystrokes, 0[0-7]{3} [^\n]*\n"
+                                           "/dev/hidraw1  events, 0[0-7]{3} [^\n]*, open to you\n"
+                                           "/dev/hidraw2  configuration, 0[0-7]{3} [^\n]*, open to you\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("The keyboard works; its profile 1 is active."));
+
+    {
+        const auto program = acquireInstanceLock("Tarnix Keyboard");
+        EXPECT_EQ(withKeyboard("", "$CTL doctor").status, 5);
+        for (const char* command : {"select 1", "read d"})
+            EXPECT_EQ(withKeyboard("", std::string("$CTL ") + command).status, 5) << command;
+        EXPECT_EQ(wire, "");
+    }
+
+    writeFile("fail", "fail all\n");
+    outcome = withKeyboard("--commands|" + path("fail"), "$CTL doctor");
+    EXPECT_EQ(outcome.status, 7);
+    EXPECT_THAT(outcome.out, HasSubstr("does not answer"));
+}
+
+TEST_F(CtlKeyboardTest, WithoutRightsEveryCommandSaysSoAndDoctorNamesTheMend) {
+    // The superuser may do everything, so somebody else has to try.
+    const std::string somebody =
+        ::geteuid() == 0 ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "";
+    const std::string close =
+        "chmod -R a+rX . && cp $CTL ctl && chmod 755 $UMOCKDEV_DIR ctl && chmod -R a+rwX $UMOCKDEV_DIR/ioctl "
+        "&& "
+        "chmod 000 $UMOCKDEV_DIR/dev/hidraw* && unset XDG_RUNTIME_DIR && ";
+    const Outcome outcome = withKeyboard("", close + somebody + "./ctl doctor");
+    EXPECT_EQ(outcome.status, 4) << outcome.error;
+    EXPECT_THAT(outcome.out, HasSubstr("/dev/hidraw2  configuration, 0000 "));
+    EXPECT_THAT(outcome.out, HasSubstr(", closed to you\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("70-tarnix-keyboard.rules"));
+    for (const char* command : {"select 2", "monitor"})
+        EXPECT_EQ(withKeyboard("", close + somebody + "./ctl " + command).status, 4) << command;
+}
+
+TEST_F(CtlKeyboardTest, ReadTakesProfilesAndMacrosAndLeavesTheKeyboardAsItWas) {
+    Outcome outcome = withKeyboard(seeded, "$CTL read new/dir && $CTL check new/dir/* && $CTL read new/dir");
+    EXPECT_EQ(outcome.status, 1) << outcome.error;
+    EXPECT_THAT(outcome.error, HasSubstr("macros.mlf exists already"));
+    EXPECT_THAT(outcome.out, HasSubstr("new/dir/profile3.psf: profile, accepted"));
+    EXPECT_THAT(wire, Not(ContainsRegex("set 0[5-8]")));
+
+    ProfileRecord record;
+    ProfileRecord expected;
+    MacroLibrary library;
+    resetProfileRecord(expected, 1);
+    expected.GKeys[5] = {"Combo", "", keyAssignment(FunctionType::Macro)};
+    EXPECT_FALSE(parseProfile(fileText("new/dir/profile2.psf"), record));
+    EXPECT_EQ(record, expected);
+    EXPECT_FALSE(parseMacroLibrary(fileText("new/dir/macros.mlf"), LibraryForm::Long, library));
+    ASSERT_EQ(library.sets.at(0).keys.size(), 2u);
+    EXPECT_EQ(library.sets[0].keys[0].name, "Profile1_G1");
+    EXPECT_EQ(library.sets[0].keys[1].name, "Combo");
+    EXPECT_EQ(library.sets[0].keys[1].loopCount, 3);
+
+    writeFile("new/dir/profile1.psf", "old");
+    writeFile("fail", "fail 6\n");
+    EXPECT_EQ(withKeyboard("--commands|" + path("fail"), "$CTL read --force new/dir").status, 7);
+    EXPECT_EQ(fileText("new/dir/profile1.psf"), "old") << "a failed transfer writes nothing";
+    EXPECT_EQ(withKeyboard("", "$CTL read --force new/dir").status, 0);
+    EXPECT_THAT(fileText("new/dir/profile1.psf"), HasSubstr("Key0Name=CTRL+1\n"));
+    EXPECT_EQ(withKeyboard("", "$CTL read /dev/null/dir").status, 1);
+}
+
+TEST_F(CtlKeyboardTest, WriteSendsAProfileInOrderWithPausesAndKeepsTheActiveProfile) {
+    writeSample();
+    const auto launcher = start("", "$CTL select 2; $CTL write p.psf --profile 3 --macros l.mlf");
+    wire = launcher->rest();
+    EXPECT_EQ(launcher->status(), 0) << fileText(".error");
+    EXPECT_THAT(fileText(".error"), HasSubstr("[1/9] lighting\n[2/9] keys\n[3/9] macro of G1\n"));
+    std::vector<std::string> reports;
+    std::vector<int> times;
+    std::istringstream lines(wire);
+    for (std::string line; std::getline(lines, line);) {
+        times.push_back(std::atoi(line.c_str()));
+        reports.push_back(line.substr(line.find("ms  ") + 4, 24));
+    }
+    EXPECT_THAT(reports, testing::ElementsAre("set 05 active profile: 2", "get 05 active profile: 2",
+                                              "get 05 active profile: 2", "set 07 lighting profile ",
+                                              "set 06 key codes profile", "set 08 macro profile 3 G",
+                                              "set 08 macro profile 3 G", "set 08 macro profile 3 G",
+                                              "set 08 macro profile 3 G", "set 08 macro profile 3 G",
+                                              "set 08 macro profile 3 G", "set 05 active profile: 2"));
+    EXPECT_THAT(wire, HasSubstr("key codes profile 3: 1 remapped, G-keys 010000 010000"));
+    ASSERT_EQ(times.size(), 12u);
+    EXPECT_GE(times[4] - times[3], 15);
+    for (std::size_t i = 5; i < times.size(); ++i)
+        EXPECT_GE(times[i] - times[i - 1], 350);
+
+    for (const char* refused : {"p.psf --profile 1 --macros less.mlf", "l.mlf --profile 1",
+                                "none.psf --profile 1", "p.psf --profile 1 --macros p.psf"}) {
+        EXPECT_EQ(withKeyboard("", std::string("$CTL write ") + refused).status, 6) << refused;
+        EXPECT_EQ(wire, "") << refused;
+    }
+    EXPECT_EQ(ctl("write p.psf --profile 1").status, 3) << "no keyboard";
+}
+
+TEST_F(CtlKeyboardTest, AnUnplugOrARefusalInTheMiddleEndsAWriteAsFailed) {
+    writeSample();
+    const auto launcher = start("", "$CTL write p.psf --profile 1 --macros l.mlf");
+    launcher->until("set 08 macro profile 1 G1");
+    launcher->command("unplug");
+    launcher->until("ok unplug");
+    EXPECT_THAT(launcher->rest(), Not(HasSubstr("set"))) << "nothing is tried after a failure";
+    EXPECT_EQ(launcher->status(), 7);
+    EXPECT_THAT(fileText(".error"), HasSubstr("tarnixctl: the keyboard does not take part in: macro of G"));
+
+    writeFile("fail", "fail 2\n");
+    EXPECT_EQ(withKeyboard("--commands|" + path("fail"), "$CTL select 2").status, 7);
+    EXPECT_THAT(withKeyboard("", "$CTL write p.psf --profile 1").error,
+                HasSubstr("G6 plays the macro M5, which stays"));
+}
+
+TEST_F(CtlKeyboardTest, MonitorDecodesEventsOverAReplugUntilItIsInterrupted) {
+    const auto launcher = start("", "$CTL monitor > /dev/stderr 2>&1 & echo $! > pid; wait $!");
+    const auto awaitError = [this](const std::string& text) {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        while (fileText(".error").find(text) == std::string::npos &&
+               std::chrono::steady_clock::now() < deadline)
+            ::poll(nullptr, 0, 10);
+        EXPECT_THAT(fileText(".error"), HasSubstr(text));
+    };
+    awaitError("listening to /dev/hidraw1\n");
+    for (const char* event : {"emit 5 2", "emit 6 3", "emit 7 99", "emit 3 0", "emit 1 4", "emit 0x55 7"})
+        launcher->command(event);
+    awaitError("unknown event\n");
+    const std::string seen = fileText(".error");
+    EXPECT_THAT(seen, ContainsRegex(" [0-9]+\\.[0-9]{3}  05 02 00 00 00 00 00  profile 2\n"));
+    for (const char* event : {"  light mode Flow Right\n", "  light brightness 99\n",
+                              "  Windows key disabled\n", "  macro recorded on G-key 4\n"})
+        EXPECT_THAT(seen, HasSubstr(event));
+    launcher->command("unplug");
+    awaitError("the keyboard is gone");
+    launcher->command("plug");
+    awaitError("listening to /dev/hidraw4\n");
+    launcher->command("emit 9 1");
+    awaitError("  all keys enabled\n");
+    ::kill(std::atoi(fileText("pid").c_str()), SIGINT);
+    launcher->rest();
+    EXPECT_EQ(launcher->status(), 0);
+    EXPECT_EQ(ctl("monitor").status, 3) << "no keyboard at the start";
+}
+
+} // namespace
+} // namespace tarnix

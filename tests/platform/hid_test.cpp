@@ -183,31 +183,22 @@ TEST_F(HidTest, DeliversToEachCollectionItsOwnReports) {
     EXPECT_EQ(hid->open(pathOf(0x0B) + "7"), nullptr) << "there is no such collection";
 }
 
-TEST_F(HidTest, AStopEndsThePresentAndEveryLaterRead) {
+TEST_F(HidTest, AStopAndAnUnplugEndThePresentAndEveryLaterRead) {
     plugKeyboard();
-    const auto device = hid->open(pathOf(0x0A));
-    ASSERT_NE(device, nullptr);
     std::vector<std::uint8_t> report(8);
-    auto waiting = std::async(std::launch::async, [&] { return device->read(report); });
-    EXPECT_EQ(waiting.wait_for(Milliseconds(20)), std::future_status::timeout);
-    device->stop();
-    EXPECT_EQ(waiting.get(), ReadResult::Stopped);
-    sendInput(VirtualKeyboard::eventInterface, {0x05, 0x02});
-    EXPECT_EQ(device->read(report), ReadResult::Stopped);
-    device->stop();
-    EXPECT_EQ(device->read(report), ReadResult::Stopped);
-}
-
-TEST_F(HidTest, AnUnplugEndsTheReadAndFailsEveryLaterOne) {
-    plugKeyboard();
-    const auto device = hid->open(pathOf(0x0A));
-    ASSERT_NE(device, nullptr);
-    std::vector<std::uint8_t> report(8);
-    auto waiting = std::async(std::launch::async, [&] { return device->read(report); });
-    EXPECT_EQ(waiting.wait_for(Milliseconds(20)), std::future_status::timeout);
-    unplugAll();
-    EXPECT_EQ(waiting.get(), ReadResult::Failed);
-    EXPECT_EQ(device->read(report), ReadResult::Failed);
+    const auto stopped = hid->open(pathOf(0x0A));
+    const auto unplugged = hid->open(pathOf(0x0A));
+    ASSERT_TRUE(stopped && unplugged);
+    const auto readWhile = [&](HidDevice& device, const std::function<void()>& ended) {
+        auto waiting = std::async(std::launch::async, [&] { return device.read(report); });
+        EXPECT_EQ(waiting.wait_for(Milliseconds(20)), std::future_status::timeout);
+        ended();
+        return waiting.get();
+    };
+    EXPECT_EQ(readWhile(*stopped, [&] { stopped->stop(); }), ReadResult::Stopped);
+    EXPECT_EQ(readWhile(*unplugged, [&] { unplugAll(); }), ReadResult::Failed);
+    EXPECT_EQ(stopped->read(report), ReadResult::Stopped);
+    EXPECT_EQ(unplugged->read(report), ReadResult::Failed);
 }
 
 TEST_F(HidTest, TellsOfThePlugsOfAWholeKeyboardAtOnce) {

@@ -19,7 +19,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 constexpr LParam releaseBit = 0x80000000;
 
@@ -132,16 +131,6 @@ TEST_F(KeyboardHookTest, SleepsBetweenKeysAndLeavesNoThreadBehind) {
     }
     hook.StopHook();
     EXPECT_EQ(sleepsOfThreads().size(), without.size());
-}
-
-TEST_F(KeyboardHookTest, PostsKeysOnceAfterBeingStartedTwice) {
-    HookedWindow other;
-    hook.StartHook(other);
-    hook.StartHook(window);
-    tapKey("c");
-    ASSERT_TRUE(runUntil([&] { return window.keys.size() >= 2; }));
-    settle();
-    EXPECT_THAT(window.keys, SizeIs(2));
 }
 
 TEST_F(KeyboardHookTest, PostsTheWindowsOwnKeysWhereTheSessionGivesNoOthers) {

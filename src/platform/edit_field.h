@@ -12,11 +12,12 @@ struct EditStyle {
     bool numbersOnly = false; ///< typing takes digits alone; pasting takes any text
     Color text = 0x000000;
     Color background = 0xFFFFFF;
+    bool visible = true; ///< at first; a field that was never shown holds no native one
 };
 
 class EditField {
   public:
-    /// Made visible and without focus; lives inside `parent`, which must outlive it.
+    /// Made without focus; lives inside `parent`, which must outlive it.
     EditField(Window& parent, unsigned id, const Rect& clientRect, const EditStyle& style = {});
     ~EditField();
     EditField(const EditField&) = delete;

@@ -10,7 +10,7 @@ namespace tarnix::picture {
 
 /// The program's icon: windows, notification area, desktop entry.
 inline constexpr unsigned programIcon = 381;
-inline constexpr Size programIconSize{256, 256};
+inline constexpr Size programIconSize{64, 64};
 
 /// Kept by popup lists, which paint themselves.
 inline constexpr unsigned popupFace = 151;

@@ -59,8 +59,7 @@ void MacroPage::build(Point origin) {
     CDlgBase& window = m_context.window;
     m_pLoopEdit =
         std::make_unique<EditField>(window, id::loopCountField, loopCountFieldRect.moved(origin.x, origin.y),
-                                    EditStyle{.numbersOnly = true});
-    m_pLoopEdit->setVisible(false);
+                                    EditStyle{.numbersOnly = true, .visible = false});
     buildControls(window, group::macroPage, macroPageControls, origin);
     auto actionList = std::make_unique<CImageShowList>(
         window, id::actionList, actionListRect.moved(origin.x, origin.y), m_context.macros);

@@ -71,22 +71,38 @@ void paintWith(QLineEdit& edit, const EditStyle& style) {
 } // namespace
 
 struct EditField::Native {
-    unsigned id = 0;
-    QPointer<EditWidget> widget; ///< gone with the parent's native window
+    Window& parent;
+    unsigned id;
+    Rect place;
+    EditStyle style;
+    QString text = {}; ///< what the program set last
+    bool enabled = true;
+    bool made = false;
+    QPointer<EditWidget> widget = {}; ///< gone with the parent's native window
+
+    void make();
 };
 
-EditField::EditField(Window& parent, unsigned id, const Rect& clientRect, const EditStyle& style)
-    : m_native(std::make_unique<Native>()) {
-    m_native->id = id;
-    if (!parent.exists()) return;
+/// The toolkit's editor brings the fonts, which a start does without (10 ms).
+void EditField::Native::make() {
+    if (made || !parent.exists()) return;
+    made = true;
     WindowWidget* window = parent.native()->widget;
     auto* edit = new EditWidget(*window, style.numbersOnly);
-    m_native->widget = edit;
+    widget = edit;
     paintWith(*edit, style);
-    edit->setGeometry(toQt(clientRect));
+    edit->setGeometry(toQt(place));
+    edit->setText(text);
+    edit->setEnabled(enabled);
     edit->show();
-    QObject::connect(edit, &QLineEdit::textEdited, window,
-                     [window, id] { window->call([id](Window& told) { told.OnEditChange(id); }); });
+    QObject::connect(edit, &QLineEdit::textEdited, window, [window, number = id] {
+        window->call([number](Window& told) { told.OnEditChange(number); });
+    });
+}
+
+EditField::EditField(Window& parent, unsigned id, const Rect& clientRect, const EditStyle& style)
+    : m_native(new Native{parent, id, clientRect, style}) {
+    if (style.visible) m_native->make();
 }
 
 EditField::~EditField() {
@@ -98,18 +114,22 @@ unsigned EditField::id() const {
 }
 
 std::string EditField::text() const {
-    return m_native->widget ? m_native->widget->text().toStdString() : std::string();
+    if (m_native->made && !m_native->widget) return {};
+    return (m_native->widget ? m_native->widget->text() : m_native->text).toStdString();
 }
 
 void EditField::setText(const std::string& text) {
-    if (m_native->widget) m_native->widget->setText(decodeText(text));
+    m_native->text = decodeText(text);
+    if (m_native->widget) m_native->widget->setText(m_native->text);
 }
 
 void EditField::setVisible(bool visible) {
+    if (visible) m_native->make();
     if (m_native->widget) m_native->widget->setVisible(visible);
 }
 
 void EditField::setEnabled(bool enabled) {
+    m_native->enabled = enabled;
     if (m_native->widget) m_native->widget->setEnabled(enabled);
 }
 

@@ -17,9 +17,10 @@ namespace {
 constexpr qsizetype alignment = 64;
 constexpr int keyPage = 0;
 
-/// Whether the window's first frame shows the picture: its background, the key page's band, the controls that
-/// are always visible and the caps.
-bool inFirstFrame(const Picture& picture) {
+/// Whether the program's start needs the picture: the icon, and what the first frame shows, which is the
+/// window's background, the key page's band, the controls that are always visible and the caps.
+bool neededAtStart(const Picture& picture) {
+    if (picture.type == ResourceType::Icon) return true;
     if (picture.scale != 1) return false;
     if (picture.type == ResourceType::Bitmap)
         return picture.id == mainBackground || picture.id == pageBandImage(keyPage);
@@ -112,7 +113,7 @@ bool writePack(const std::vector<Picture>& pictures, const QString& folder) {
     QString rows;
     QTextStream out(&rows);
     for (const Picture& picture : pictures) {
-        const bool inPlace = inFirstFrame(picture);
+        const bool inPlace = neededAtStart(picture);
         const QByteArray stored = inPlace ? pixelsOf(picture.pixels) : pngOf(picture.pixels);
         if (stored.isEmpty()) return false;
         out << "    {ResourceType::" << nameOf(picture.type) << ", " << picture.id << ", "

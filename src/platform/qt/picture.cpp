@@ -27,12 +27,20 @@ QImage withKeyTransparent(const QImage& image, Color key) {
     return keyed;
 }
 
+/// In place of a file that cannot be decoded.
+QImage transparent(const BuiltinImage& stored) {
+    QImage image(stored.width, stored.height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
 } // namespace
 
 const QImage& StoredPixels::pixels() const {
     if (!m_pixels.isNull()) return m_pixels;
     if (m_stored.format == BuiltinImage::Format::Png) {
         m_pixels = paintedQuickly(QImage::fromData(m_stored.data, static_cast<int>(m_stored.size), "PNG"));
+        if (m_pixels.size() != QSize(m_stored.width, m_stored.height)) m_pixels = transparent(m_stored);
     } else {
         const auto format = m_stored.opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied;
         m_pixels = QImage(m_stored.data, m_stored.width, m_stored.height, m_stored.width * 4, format);

@@ -47,12 +47,13 @@ set(CPACK_PACKAGE_NAME tarnix-keyboard)
 set(CPACK_PACKAGE_CONTACT "The Tarnix Keyboard developers <support@tarnix.example>")
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://www.tarnix.example/")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "configuration utility of the Tarnix RGB gaming keyboard")
-set(CPACK_PACKAGE_DESCRIPTION
-  "Remaps keys, sets the lights, records macros and gives the G-keys their functions.
- The keyboard keeps three profiles; the program follows what is set on the keyboard itself.
- .
- The package also holds tarnixctl, which does the same from the command line, and a virtual keyboard for trying things
- without the hardware.")
+set(CPACK_PACKAGE_DESCRIPTION "Remaps keys, sets the lights, records macros and gives the G-keys their
+functions. The keyboard keeps three profiles; the program follows what is set
+on the keyboard itself.
+
+The package also holds tarnixctl, which reaches the keyboard and the files
+from the command line, and a virtual keyboard for trying things without the
+hardware.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS

@@ -109,9 +109,8 @@ void PopupPlaces::discard(CWndPopup* popup) {
     sweep();
 }
 
-void PopupPlaces::forget(const CWndPopup* popup) {
-    std::replace(m_places.begin(), m_places.end(), const_cast<CWndPopup*>(popup),
-                 static_cast<CWndPopup*>(nullptr));
+void PopupPlaces::forget(CWndPopup* popup) {
+    std::replace(m_places.begin(), m_places.end(), popup, static_cast<CWndPopup*>(nullptr));
     std::erase_if(m_macroSets, [popup](const auto& place) { return place.second == popup; });
 }
 

@@ -66,7 +66,7 @@ class PopupPlaces {
     void letGo(CWndPopup& popup);
     void discard(CWndPopup* popup);
     /// Takes the popup out of the place that holds it.
-    void forget(const CWndPopup* popup);
+    void forget(CWndPopup* popup);
     bool isOpen(const CWndPopup* popup) const;
     void sweep();
 

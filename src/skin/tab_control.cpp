@@ -8,14 +8,14 @@ namespace {
 
 struct TabRow {
     unsigned id;
-    int* selection; ///< the group's variable
-    int value;
+    int value;      ///< what the tab sets
+    int* selection; ///< the variable of its group
 };
 
 constexpr TabRow tabs[] = {
-    {2003, &g_nMainPage, 0}, {2004, &g_nMainPage, 1}, {2005, &g_nMainPage, 2},
-    {2077, &g_nMainPage, 3}, {2049, &g_nSubPage, 0},  {2050, &g_nSubPage, 1},
-    {2051, &g_nSubPage, 2},  {2052, &g_nSubPage, 3},  {2053, &g_nSubPage, 4},
+    {2003, 0, &g_nMainPage}, {2004, 1, &g_nMainPage}, {2005, 2, &g_nMainPage},
+    {2077, 3, &g_nMainPage}, {2049, 0, &g_nSubPage},  {2050, 1, &g_nSubPage},
+    {2051, 2, &g_nSubPage},  {2052, 3, &g_nSubPage},  {2053, 4, &g_nSubPage},
 };
 
 const TabRow* tabOf(unsigned id) {

@@ -15,19 +15,20 @@ TEST(PollLoopTest, ServesPostsInOrderTimersWhenDueAndEndsCallbacksWithTheirSubsc
     PollLoop loop;
     std::string seen;
     const int readable = ::eventfd(1, EFD_CLOEXEC);
-    std::unique_ptr<MainLoop::Subscription> own;
-    std::unique_ptr<MainLoop::Subscription> other = loop.watch(readable, [&] { seen += "other "; });
+    std::unique_ptr<MainLoop::Subscription> own, other, never;
+    // Ends the others in the first turn, however late that comes.
+    const auto ending = loop.after(Milliseconds(0), [&] {
+        other.reset();
+        never.reset();
+    });
+    other = loop.watch(readable, [&] { seen += "other "; });
     own = loop.watch(readable, [&] {
         seen += "own ";
         own.reset();
     });
     const auto last = loop.after(Milliseconds(60), [&] { loop.quit(); });
     const auto first = loop.after(Milliseconds(20), [&] { seen += "timer "; });
-    auto never = loop.after(Milliseconds(40), [&] { seen += "never "; });
-    const auto stopper = loop.after(Milliseconds(0), [&] {
-        other.reset();
-        never.reset();
-    });
+    never = loop.after(Milliseconds(40), [&] { seen += "never "; });
     loop.run();
     EXPECT_EQ(seen, "other own timer ") << "the watches end in the first turn";
 

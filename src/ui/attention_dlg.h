@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "macro_manager/form_dlg.h"
+#include "skin/form_dlg.h"
 
 namespace tarnix {
 

@@ -1,7 +1,7 @@
 // Asks before a profile, or everything, goes back to the factory state. The question is the background.
 #pragma once
 
-#include "macro_manager/form_dlg.h"
+#include "skin/form_dlg.h"
 
 namespace tarnix {
 

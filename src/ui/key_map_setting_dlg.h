@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
-#include "macro_manager/form_dlg.h"
 #include "platform/keyboard_hook.h"
+#include "skin/form_dlg.h"
 
 namespace tarnix {
 

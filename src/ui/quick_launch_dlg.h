@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "macro_manager/form_dlg.h"
+#include "skin/form_dlg.h"
 #include "skin/selection.h"
 
 namespace tarnix {

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "macro_manager/form_dlg.h"
 #include "platform/keyboard_hook.h"
+#include "skin/form_dlg.h"
 #include "skin/selection.h"
 
 namespace tarnix {

@@ -4,8 +4,8 @@
 
 #include <memory>
 
-#include "macro_manager/form_dlg.h"
 #include "platform/edit_field.h"
+#include "skin/form_dlg.h"
 
 namespace tarnix {
 

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "macro_manager/form_dlg.h"
 #include "macro_manager/macro_editor.h"
 #include "platform/files.h"
+#include "skin/form_dlg.h"
 
 namespace tarnix {
 

@@ -81,7 +81,7 @@ constexpr Companion setNameFaces[] = {
 };
 
 constexpr Companion noticeFaces[] = {
-    {noteBackground, "Macro set", "Please choose a macro set first."},
+    {noteBackground, "Macro set", "Please choose a macro set or macro first."},
     {attentionBackground, "Macro", "Please choose a macro first."},
 };
 

@@ -1,14 +1,15 @@
-#include "macro_manager/form_dlg.h"
-
-#include "macro_manager/manager_layout.h"
+#include "skin/form_dlg.h"
 
 namespace tarnix {
 
+namespace {
+constexpr unsigned closeButton = 2004;
+constexpr unsigned cancelButton = 2011;
+} // namespace
+
 CFormDlg::CFormDlg(const DialogForm& form, Window* owner)
     : CDlgBase({.owner = owner, .role = form.role}, form.size), m_form(form) {
-    m_messages.onClick(manager::closeButton, [this] { OnCancel(); }).onClick(manager::cancelButton, [this] {
-        OnCancel();
-    });
+    m_messages.onClick(closeButton, [this] { OnCancel(); }).onClick(cancelButton, [this] { OnCancel(); });
 }
 
 void CFormDlg::OnInitDialog() {

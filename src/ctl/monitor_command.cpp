@@ -1,4 +1,5 @@
 #include <cstdio>
+#include <utility>
 
 #include "ctl/commands.h"
 #include "ctl/describe.h"
@@ -51,15 +52,15 @@ class Monitor {
   private:
     void follow() {
         const auto interface = findInterface(m_context.hid, keyboardIdentity::eventUsagePage);
-        const std::string path = interface ? interface->path : "";
-        if (path == m_path) return;
+        // A keyboard that was out for a moment may have its old node again, but not its old listener.
         if (interface)
             m_listener.start(*interface);
         else
             m_listener.stop();
+        const std::string path = interface ? interface->path : "";
+        if (std::exchange(m_path, path) == path) return;
         complain(interface ? "listening to " + examineHidNode(*interface).path
                            : "the keyboard is gone; waiting for it");
-        m_path = path;
     }
 
     const Context& m_context;

@@ -91,10 +91,14 @@ TEST_F(Edit, AFieldThatIsDeletedByItsOwnKeyOrOutlivesItsWindowDoesNoHarm) {
     } window("renaming", m_log);
     ASSERT_TRUE(window.createWindow({.owner = &m_window}, Rect::at(500, 500, 200, 100)));
     window.show();
+    ASSERT_TRUE(shown(window));
     for (const std::string last : {"Return", "x"}) {
         window.field = std::make_unique<EditField>(window, 5, Rect::at(10, 10, 100, 20));
-        click({550, 520});
+        m_log.clear();
+        click({650, 590});
+        ASSERT_TRUE(logged("renaming up 0 150,90"));
         window.field->setFocus();
+        settle();
         tapKey(last);
         EXPECT_TRUE(runUntil([&] { return !window.field; }));
     }

@@ -16,12 +16,12 @@ void tell(WindowHandle handle, bool active) {
         window->native()->widget->call([active](Window& told) { told.OnActivate(active); });
 }
 
-/// The nearest visible window that the given one belongs to.
-Window* visibleOwner(const Window& window) {
-    Window* owner = window.owner();
-    while (owner && !(owner->isVisible() && !owner->isMinimised()))
-        owner = owner->owner();
-    return owner;
+/// The nearest window on the screen behind the given one.
+Window* nextBehind(const Window& window) {
+    Window* behind = WindowRegistry::instance().behind(window);
+    while (behind && !(behind->isVisible() && !behind->isMinimised()))
+        behind = WindowRegistry::instance().behind(*behind);
+    return behind;
 }
 
 } // namespace
@@ -53,7 +53,7 @@ void Activation::withdraw(Window& window) {
     Window* active = WindowRegistry::instance().find(m_active);
     if (!active) return;
     if (active == &window) {
-        activate(visibleOwner(window));
+        activate(nextBehind(window));
     } else if (WindowRegistry::isOwnedBy(*active, window)) {
         activate(nullptr);
     }

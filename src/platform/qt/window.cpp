@@ -25,11 +25,15 @@ const QScreen& screenOfMainWindow() {
     return screen ? *screen : *QGuiApplication::primaryScreen();
 }
 
-/// The native windows stay above their owners' through this.
-void stayAbove(WindowWidget& widget, const Window* owner) {
-    const Window* below = owner ? owner : WindowRegistry::instance().mainWindow();
-    if (below && below->exists())
-        widget.windowHandle()->setTransientParent(below->native()->widget->windowHandle());
+bool isOnScreen(const Window* window) {
+    return window && window->isVisible() && !window->isMinimised();
+}
+
+/// The native window stays above the one behind it; not if that is away, for then window managers hide it,
+/// too.
+void stayAbove(WindowWidget& widget, const Window* behind) {
+    QWindow* below = isOnScreen(behind) ? behind->native()->widget->windowHandle() : nullptr;
+    widget.windowHandle()->setTransientParent(below);
 }
 
 } // namespace
@@ -56,7 +60,6 @@ bool Window::createWindow(const WindowTraits& traits, const Rect& screenRect) {
     widget->setFixedSize(screenRect.width(), screenRect.height());
     widget->move(screenRect.left, screenRect.top);
     widget->winId();
-    stayAbove(*widget, traits.owner);
     if (!traits.taskbarButton) addInitialState(*widget, InitialState::SkipTaskbar);
     m_native->handle = WindowRegistry::instance().add(*this);
     return true;
@@ -125,9 +128,8 @@ void Window::resizeTo(Size size) {
 
 void Window::centre() {
     if (!exists()) return;
-    const Window* below = owner() ? owner() : WindowRegistry::instance().mainWindow();
-    const bool overWindow = below && below != this && below->isVisible() && !below->isMinimised();
-    const Rect around = overWindow ? below->screenRect() : workArea();
+    const Window* behind = WindowRegistry::instance().behind(*this);
+    const Rect around = isOnScreen(behind) ? behind->screenRect() : workArea();
     const Size size = clientRect().size();
     moveTo(
         {around.left + (around.width() - size.width) / 2, around.top + (around.height() - size.height) / 2});
@@ -161,8 +163,10 @@ void Window::setOpacity(int opacity) {
 void Window::show() {
     if (!exists()) return;
     WindowWidget* widget = m_native->widget;
+    const bool overlay = widget->kind() == WindowKind::Overlay;
+    if (!overlay && !widget->isVisible()) stayAbove(*widget, WindowRegistry::instance().behind(*this));
     widget->show();
-    if (widget->kind() == WindowKind::Overlay) return;
+    if (overlay) return;
     if (widget->kind() == WindowKind::Dialog && !windowManagerRuns()) {
         widget->raise();
         widget->activateWindow();
@@ -177,8 +181,8 @@ void Window::hide() {
     widget->hide();
     Activation::instance().withdraw(*this);
     // Without a window manager nobody else passes the focus on.
-    if (hadFocus && owner() && owner()->isVisible() && !windowManagerRuns())
-        owner()->native()->widget->activateWindow();
+    const Window* behind = WindowRegistry::instance().behind(*this);
+    if (hadFocus && isOnScreen(behind) && !windowManagerRuns()) behind->native()->widget->activateWindow();
 }
 
 void Window::minimise() {

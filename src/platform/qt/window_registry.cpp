@@ -51,4 +51,10 @@ Window* WindowRegistry::mainWindow() const {
     return found == m_windows.end() ? nullptr : found->second;
 }
 
+Window* WindowRegistry::behind(const Window& window) const {
+    if (window.owner()) return window.owner();
+    Window* main = mainWindow();
+    return main == &window ? nullptr : main;
+}
+
 } // namespace tarnix

@@ -29,6 +29,8 @@ class WindowRegistry {
     static bool isOwnedBy(const Window& window, const Window& ancestor);
     /// The first window with a taskbar button; none before it is made.
     Window* mainWindow() const;
+    /// The window that the given one stands over: its owner, else the main window. None for the main window.
+    Window* behind(const Window& window) const;
 
   private:
     std::map<WindowHandle, Window*> m_windows; ///< in the order of creation

@@ -98,25 +98,6 @@ TEST_F(MacroPage, ALoopCountOutsideItsRangeBecomesOne) {
     });
 }
 
-TEST_F(MacroPage, RecordingFillsTheShownMacroAndIsSavedWhenItEnds) {
-    run([&] {
-        AddMacroKey(set(), "Tap");
-        list().SelectSet(0);
-        bench.window->send(id::macroList, 0, NOTIFY_CLICK);
-        bench.changes();
-        bench.click(id::recordSwitch);
-        bench.window->send(WM_KEYHOOK, 0x41, 100);
-        bench.window->send(WM_KEYHOOK, 0x41, static_cast<LParam>(0x80000000U | 150));
-        // Nothing but the switch and the delay box can be used meanwhile.
-        bench.click(id::applyButton);
-        EXPECT_THAT(bench.changes(), IsEmpty());
-        bench.click(id::recordSwitch);
-        EXPECT_THAT(bench.changes(), ElementsAre("replace " + bench.file("MacroLibraryFile.mlf")));
-        EXPECT_EQ(set().keys[0].actionCount, 2U);
-        EXPECT_FALSE(bench.window->link().pending().m_bMacroLibraryChanged);
-    });
-}
-
 TEST_F(MacroPage, AMacroRecordedOnTheKeyboardAppears) {
     run([&] {
         const std::uint8_t keyA[] = {0x04, 0x00, 0x04, 0x80};

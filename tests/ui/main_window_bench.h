@@ -23,23 +23,16 @@ namespace tarnix {
 
 using Journal = std::vector<std::string>;
 
-/// Notes what it is asked; file dialogs answer what was prepared.
-class NotingShell : public Shell {
+/// File dialogs answer what was prepared.
+class PreparedShell : public Shell {
   public:
     std::optional<std::string> nextFile;
-    Journal asked;
 
-    void messageBox(const std::string& text) override { asked.push_back("box " + text); }
-    std::optional<std::string> openFile(const FileDialog& dialog, Window&) override {
-        asked.push_back(dialog.title);
-        return nextFile;
-    }
-    std::optional<std::string> saveFile(const FileDialog& dialog, Window&) override {
-        asked.push_back(dialog.title);
-        return nextFile;
-    }
-    void openLink(const std::string& address) override { asked.push_back("link " + address); }
-    void launch(const std::string& target) override { asked.push_back("launch " + target); }
+    void messageBox(const std::string&) override {}
+    std::optional<std::string> openFile(const FileDialog&, Window&) override { return nextFile; }
+    std::optional<std::string> saveFile(const FileDialog&, Window&) override { return nextFile; }
+    void openLink(const std::string&) override {}
+    void launch(const std::string&) override {}
 };
 
 class NotingPresence : public DesktopPresence {
@@ -73,7 +66,7 @@ class MainWindowBench {
     MemoryFiles files; ///< its log is the journal
     ProfileStore store;
     MacroLibrary macros;
-    NotingShell shell;
+    PreparedShell shell;
     NotingPresence presence{files.log};
     std::unique_ptr<CPelmoraDlg> window;
     bool active = false; ///< the window, among the program's

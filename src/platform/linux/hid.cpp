@@ -7,7 +7,9 @@
 #include <array>
 #include <cstdlib>
 #include <filesystem>
+#include <set>
 #include <tuple>
+#include <utility>
 
 #include "platform/linux/file_descriptor.h"
 #include "platform/linux/hid_device.h"
@@ -40,6 +42,20 @@ ReportDescriptor readDescriptor(const std::string& node) {
         length += static_cast<std::size_t>(got);
     }
     return parseReportDescriptor(std::span(bytes).first(length));
+}
+
+/// The nodes and where each is on the bus: a look at a folder, where an enumeration takes milliseconds.
+using NodeLinks = std::set<std::pair<std::string, std::string>>;
+
+NodeLinks nodeLinks() {
+    NodeLinks links;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry("/sys/class/hidraw", error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code noLink;
+        links.emplace(entry->path().filename(), std::filesystem::read_symlink(entry->path(), noLink));
+    }
+    return links;
 }
 
 /// The system's nodes, each once, by their place on the bus and then by their number.
@@ -88,11 +104,16 @@ class LinuxHid final : public Hid {
     explicit LinuxHid(MainLoop& loop) : m_loop(loop) { hid_init(); }
     ~LinuxHid() override { hid_exit(); }
 
+    /// A search asks several times in a row; what is there is looked at closely when it has changed.
     std::vector<HidInterface> enumerate() override {
-        std::vector<HidInterface> interfaces;
-        for (const HidInterface& node : enumerateNodes())
-            addInterfaces(node, interfaces);
-        return interfaces;
+        const NodeLinks links = nodeLinks();
+        if (links.empty() || links != m_links) {
+            m_interfaces.clear();
+            for (const HidInterface& node : enumerateNodes())
+                addInterfaces(node, m_interfaces);
+            m_links = links;
+        }
+        return m_interfaces;
     }
 
     std::unique_ptr<HidDevice> open(const std::string& path) override {
@@ -114,6 +135,8 @@ class LinuxHid final : public Hid {
 
   private:
     MainLoop& m_loop;
+    NodeLinks m_links; ///< at the last close look
+    std::vector<HidInterface> m_interfaces;
     std::unique_ptr<HotplugMonitor> m_monitor;
 };
 

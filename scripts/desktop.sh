@@ -7,6 +7,10 @@ desktop_status=0
 
 end_desktop() {
     desktop_status=$?
+    if [ $desktop_status != 0 ]; then
+        [ -z "${keyboard_log:-}" ] || tail -n 40 "$keyboard_log" >&2
+        [ -z "${failure_picture:-}" ] || import -window root "$failure_picture" || true
+    fi
     exec 7>&- 2>/dev/null || true
     kill "${desktop_pids[@]}" 2>/dev/null || true
     wait "${desktop_pids[@]}" 2>/dev/null || true
@@ -31,12 +35,11 @@ eventually() {
     done
 }
 
-# window ROLE: the identifier of the visible window of that class.
+# window ROLE: the identifier of the visible window of that class; in $window_id, too.
 window() {
-    local id
-    for id in $(xdotool search --onlyvisible --name '^Tarnix Keyboard$' 2> /dev/null); do
-        if xprop -id "$id" WM_WINDOW_ROLE 2> /dev/null | grep -q "\"$1\""; then
-            echo "$id"
+    for window_id in $(xdotool search --onlyvisible --name '^Tarnix Keyboard$' 2> /dev/null || true); do
+        if [[ $(xprop -id "$window_id" WM_WINDOW_ROLE 2> /dev/null) == *"\"$1\"" ]]; then
+            echo "$window_id"
             return 0
         fi
     done
@@ -50,14 +53,26 @@ no_window() {
 # point ROLE X Y: moves the pointer over the window; click does so and clicks.
 point() {
     eventually window "$1"
-    xdotool mousemove --window "$(window "$1")" "$2" "$3"
-    sleep 0.15
+    xdotool mousemove --window "$window_id" "$2" "$3" sleep 0.15
 }
 
 click() {
     point "$@"
-    xdotool click 1
-    sleep 0.15
+    xdotool click 1 sleep 0.15
+}
+
+# picture ROLE WIDTHxHEIGHT+X+Y: what that part of the window looks like, as a word to compare. looks_like ... WORD
+# compares; painted ROLE tells that the window's first frame is there.
+picture() {
+    import -window "$(window "$1")" -crop "$2" +repage rgb:- | md5sum
+}
+
+looks_like() {
+    [ "$(picture "$1" "$2")" = "$3" ]
+}
+
+painted() {
+    [ "$(import -window "$(window "$1")" -format %k info:)" -gt 100 ]
 }
 
 # screenshot FILE: the whole screen.
@@ -66,13 +81,14 @@ screenshot() {
     import -window root "$1"
 }
 
-# start_program FOLDER [RUNS [OPTION...]]: the program from FOLDER, RUNS times in a row with one virtual keyboard, whose
-# log goes to $keyboard_log and which takes commands through `keyboard`.
-start_program() {
+# launch_program FOLDER [RUNS [OPTION...]]: the program from FOLDER, RUNS times in a row with one virtual keyboard, whose
+# log goes to $keyboard_log and which takes commands through `keyboard`. start_program waits for its window, too.
+launch_program() {
     local folder=$1 runs=${2:-1}
     shift
     shift || true
     keyboard_log=$desktop/keyboard.log
+    reports_seen=0
     : > "$keyboard_log"
     rm -f "$desktop/commands"
     mkfifo "$desktop/commands"
@@ -81,12 +97,52 @@ start_program() {
     program_pid=$!
     desktop_pids+=("$program_pid")
     exec 7> "$desktop/commands"
+}
+
+start_program() {
+    launch_program "$@"
     eventually window CPelmoraDlg
 }
 
 # keyboard COMMAND...: tells the virtual keyboard what to do.
 keyboard() {
     echo "$*" >&7
+}
+
+# reports_are LINE...: since the last time that this was so, these reports went over the wire and no others. A line is
+# the start of a report's description.
+reports_are() {
+    local -a lines
+    mapfile -t lines < <(tail -n +$((reports_seen + 1)) "$keyboard_log" | sed -n 's/^[0-9]* ms  //p')
+    [ ${#lines[@]} = $# ] || return 1
+    local line
+    for line in "${lines[@]}"; do
+        [[ $line == "$1"* ]] || return 1
+        shift
+    done
+    reports_seen=$(wc -l < "$keyboard_log")
+}
+
+# remap_f1 KEY: the key page's F1 gets that key, by pointer and key.
+remap_f1() {
+    click CPelmoraDlg 147 231
+    eventually window CKeyMapSettingDlg
+    xdotool key "$1"
+    click CKeyMapSettingDlg 198 208
+    eventually no_window CKeyMapSettingDlg
+    point CPelmoraDlg 400 200
+}
+
+# choose_light ROW: that mode of the lighting page's list, counted from 0.
+choose_light() {
+    click CPelmoraDlg 602 520
+    click CPelmoraDlg 137 240
+    click CLightModePopup 60 $(($1 * 16 + 9))
+    eventually no_window CLightModePopup
+}
+
+apply() {
+    click CPelmoraDlg 716 135
 }
 
 # end_run: Escape in the main window, and its process is gone.

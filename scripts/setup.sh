@@ -11,6 +11,7 @@ packages=(
     libumockdev-dev umockdev
     # tests and the tour on a virtual display
     libgtest-dev libgmock-dev xvfb xauth xdotool x11-utils x11-xserver-utils openbox imagemagick dbus procps
+    trayer libglib2.0-bin python3-dbusmock
 )
 
 missing=()

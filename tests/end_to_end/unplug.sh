@@ -1,0 +1,68 @@
+#!/usr/bin/env bash
+# Unplugging is told once and never hangs or ends the program, whatever it is doing; plugging in reads everything again.
+source "$(dirname "$0")/scenario.sh"
+
+close_notice() {
+    eventually window CAttentionDlg
+    click CAttentionDlg 198 208
+    eventually no_window CAttentionDlg
+}
+plug_in() {
+    reports_seen=$(wc -l < "$keyboard_log")
+    keyboard plug
+    eventually reports_are "${full_read[@]}"
+}
+# let_go: the program has closed the keyboard, whose nodes are terminals to the kernel.
+let_go() {
+    ! find "/proc/$(xdotool getwindowpid "$(window CPelmoraDlg)")/fd" -lname '/dev/pts/*' | grep .
+}
+reports_reach() {
+    [ "$(grep -c ' ms ' "$keyboard_log")" -ge "$1" ]
+}
+
+# While a key is being chosen; a second unplug finds the notice open and adds none.
+start
+click CPelmoraDlg 147 231
+eventually window CKeyMapSettingDlg
+keyboard unplug
+eventually window CAttentionDlg
+plug_in
+keyboard unplug
+eventually let_go
+plug_in
+close_notice
+xdotool key F5
+click CKeyMapSettingDlg 198 208
+apply
+eventually reports_are "set 06 key codes profile 1: 1 remapped" "set 05 active profile: 1"
+# There is one listener again, and another device's coming and going is none of the program's business.
+keyboard mouse in
+keyboard mouse out
+keyboard record 2 04:00 04:80
+eventually reports_are "event 01" "set 04 select profile 1 G2" "get 08" "set 08 macro profile 1 G2"
+end_program
+
+# At one of the reports of a slow keyboard's first reading, and then of an apply.
+echo "delay 60 60" > "$desktop/slowly"
+for report in 1 2 7; do
+    launch_program "$program" 1 --commands "$desktop/slowly"
+    eventually reports_reach $report
+    keyboard unplug
+    eventually window CPelmoraDlg
+    close_notice
+    plug_in
+    choose_light 3
+    apply
+    eventually reports_reach $((report + 14))
+    keyboard unplug
+    close_notice
+    end_program
+done
+
+# A keyboard that answers nothing is there all the same.
+echo "fail all" > "$desktop/silent"
+start --commands "$desktop/silent"
+keyboard fail none
+apply
+eventually grep -q 'set 05 active profile: 1$' "$keyboard_log"
+end_program

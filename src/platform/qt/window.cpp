@@ -12,6 +12,7 @@
 #include "modal_runs.h"
 #include "native_window.h"
 #include "picture.h"
+#include "window_shape.h"
 #include "window_widget.h"
 #include "x11.h"
 
@@ -149,11 +150,7 @@ void Window::setCursor(Cursor cursor) {
 }
 
 void Window::setShape(std::span<const Rect> outline) {
-    if (!exists()) return;
-    QRegion region;
-    for (const Rect& part : outline)
-        region += toQt(part);
-    m_native->widget->setMask(region);
+    if (exists()) shapeWindow(*m_native->widget, outline);
 }
 
 void Window::setOpacity(int opacity) {

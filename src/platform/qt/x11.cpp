@@ -1,5 +1,6 @@
 #include "x11.h"
 
+#include <xcb/shape.h>
 #include <xcb/xcb.h>
 
 #include <QGuiApplication>
@@ -67,6 +68,22 @@ void addInitialState(const QWidget& window, InitialState state) {
     xcb_change_property(x11, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window.winId()),
                         atom(x11, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 1, &value);
     xcb_flush(x11);
+}
+
+bool setNativeShape(const QWidget& window, const std::vector<QRect>& outline) {
+    xcb_connection_t* x11 = connection();
+    if (!x11) return false;
+    std::vector<xcb_rectangle_t> parts;
+    for (const QRect& part : outline) {
+        parts.push_back({static_cast<std::int16_t>(part.x()), static_cast<std::int16_t>(part.y()),
+                         static_cast<std::uint16_t>(part.width()),
+                         static_cast<std::uint16_t>(part.height())});
+    }
+    xcb_shape_rectangles(x11, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, XCB_CLIP_ORDERING_YX_SORTED,
+                         static_cast<xcb_window_t>(window.winId()), 0, 0,
+                         static_cast<std::uint32_t>(parts.size()), parts.data());
+    xcb_flush(x11);
+    return true;
 }
 
 bool xembedTrayRuns() {

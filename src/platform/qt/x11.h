@@ -2,7 +2,9 @@
 // nothing.
 #pragma once
 
+#include <QRect>
 #include <cstdint>
+#include <vector>
 
 class QWidget;
 
@@ -16,6 +18,8 @@ bool windowManagerRuns();
 enum class InitialState { SkipTaskbar, Modal };
 void addInitialState(const QWidget& window, InitialState state);
 
+/// Gives the window an outline in device pixels, below the toolkit. False where that is not possible.
+bool setNativeShape(const QWidget& window, const std::vector<QRect>& outline);
 /// Whether an XEmbed tray runs on the display.
 bool xembedTrayRuns();
 /// Whether a client message to the root window says that an XEmbed tray starts: its type and its second

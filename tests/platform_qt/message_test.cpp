@@ -65,15 +65,5 @@ TEST_F(Messages, WhatIsPostedToAWindowThatIsGoneReachesNeitherItNorItsSuccessor)
     EXPECT_THAT(m_log, ElementsAre("a destroy", "a message 3 0 0", "b message 5 0 0"));
 }
 
-TEST_F(Messages, TimersRepeatUntilStoppedAndAnswerToTheirNumbers) {
-    ASSERT_TRUE(make(m_window));
-    m_window.startTimer(1, 5);
-    m_window.startTimer(2, 1);
-    m_window.stopTimer(2);
-    ASSERT_TRUE(runUntil([&] { return m_log.size() >= 3; }));
-    m_window.stopTimer(1);
-    EXPECT_THAT(m_log, ::testing::Each("a timer 1"));
-}
-
 } // namespace
 } // namespace tarnix::testing

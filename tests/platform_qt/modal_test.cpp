@@ -119,18 +119,5 @@ TEST_F(ModalRun, EndsBeforeItBeginsAndEndsWhenTheWindowIsDestroyedInItsHandler) 
     EXPECT_EQ(count("vanishing destroy"), 1);
 }
 
-TEST_F(ModalRun, MessagesAndTimersOfAllWindowsGoOnDuringARun) {
-    showMain(m_main);
-    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
-    m_main.startTimer(3, 1);
-    m_main.post(1000);
-    then([&] {
-        EXPECT_TRUE(logged("main message 1000 0 0"));
-        EXPECT_TRUE(logged("main timer 3"));
-        m_dialog.endModal(IDOK);
-    });
-    EXPECT_EQ(m_dialog.runModal(), IDOK);
-}
-
 } // namespace
 } // namespace tarnix::testing

@@ -1,7 +1,6 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <fstream>
 #include <thread>
 
 #include "window_fixture.h"
@@ -90,33 +89,6 @@ TEST_F(Pause, TwelvePausesOfEightMillisecondsTakeNoMoreThanTwoPercentLonger) {
         best = std::min<std::chrono::nanoseconds>(best, time);
     }
     EXPECT_LE(best, 97920us);
-}
-
-/// How often the calling thread has gone to sleep so far.
-long sleeps() {
-    std::ifstream status("/proc/thread-self/status");
-    std::string word;
-    while (status >> word) {
-        if (word == "voluntary_ctxt_switches:") break;
-    }
-    long count = -1;
-    status >> count;
-    return count;
-}
-
-TEST_F(Pause, AnIdleProgramWithItsWindowOpenDoesNotWakeUp) {
-    showMain(m_window);
-    settle();
-    bool over = false;
-    const auto end = application().mainLoop().after(600ms, [&] {
-        over = true;
-        m_window.endModal(IDOK);
-    });
-    // Waking up for what is left from before, and for the end.
-    const long before = sleeps();
-    m_window.runModal();
-    EXPECT_TRUE(over);
-    EXPECT_LE(sleeps() - before, 25);
 }
 
 } // namespace

@@ -93,15 +93,5 @@ TEST(BuiltinPictures, PngFilesAreDecodedAndBrokenOnesAreTransparent) {
     EXPECT_EQ(surface->image().pixel({0, 0}), rgb(1, 2, 3));
 }
 
-TEST(BuiltinPictures, AnotherSourceCanTakeTheirPlaceForAWhile) {
-    struct None : Resources {
-        const Image* find(ResourceType, unsigned) override { return nullptr; }
-    } none;
-    setResources(&none);
-    EXPECT_FALSE(resources().find(ResourceType::Png, 7));
-    setResources(nullptr);
-    EXPECT_TRUE(resources().find(ResourceType::Png, 7));
-}
-
 } // namespace
 } // namespace tarnix

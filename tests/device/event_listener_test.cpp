@@ -37,8 +37,6 @@ class EventListenerTest : public testing::Test {
         }
     }
 
-    static int numberOf(const Bytes& report) { return report.at(1) << 8 | report.at(2); }
-
     FakeClock clock;
     VirtualKeyboard keyboard{clock};
     VirtualHid hid{keyboard};
@@ -52,22 +50,15 @@ class EventListenerTest : public testing::Test {
         });
 };
 
-TEST_F(EventListenerTest, ABurstArrivesWholeAndInOrder) {
+TEST_F(EventListenerTest, AFloodIsReadNoFasterThanItIsHeardAndArrivesWholeAndInOrder) {
     listener->start(eventInterface());
     listener->start(eventInterface());
     EXPECT_EQ(hid.openDevices(), 1);
-    emit(1000);
-    ASSERT_TRUE(loop.runUntil([this] { return heard.size() == 1000; }));
-    for (int i = 0; i < 1000; ++i)
-        ASSERT_EQ(numberOf(heard[i]), i);
-}
-
-TEST_F(EventListenerTest, AFloodIsReadNoFasterThanItIsHeard) {
-    listener->start(eventInterface());
     emit(6000);
     ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 4096; }));
     ASSERT_TRUE(loop.runUntil([this] { return heard.size() == 6000; }));
-    EXPECT_EQ(numberOf(heard.back()), 5999);
+    for (int i = 0; i < 6000; ++i)
+        ASSERT_EQ(heard[i].at(1) << 8 | heard[i].at(2), i);
 
     emit(6000);
     ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 4096; }));
@@ -86,19 +77,14 @@ TEST_F(EventListenerTest, BytesThatAReportLeavesOutKeepWhatWasThere) {
 }
 
 TEST_F(EventListenerTest, SenselessReportLengthsAreSurvived) {
-    DeviceBench bench;
-    DeviceEvents events(bench.protocol(), {bench.store, bench.macros, bench.files, bench.folder},
-                        bench.owner);
     for (const std::size_t length : {std::size_t{0}, std::size_t{2}, ~std::size_t{0}}) {
         heard.clear();
         listener->start(eventInterface(length));
         keyboard.emit(3, 0);
         ASSERT_TRUE(loop.runUntil([this] { return !heard.empty(); }));
         EXPECT_LE(heard[0].size(), 4096u);
-        events.dispatch(heard[0]);
         listener->stop();
     }
-    EXPECT_EQ(bench.told(), Words{"event 4"}) << "from the long one";
 }
 
 TEST_F(EventListenerTest, StopEndsTheWaitAndTheOwnersEndDropsWhatIsPosted) {
@@ -132,21 +118,6 @@ TEST_F(EventListenerTest, ADeadDeviceEndsTheThreadAndAStartMeanwhileTakesOver) {
     loop.runPosted();
     EXPECT_EQ(heard.size(), 1u);
     EXPECT_EQ(hid.openDevices(), 1);
-}
-
-TEST_F(EventListenerTest, TwoHundredReplugsLeaveOneListener) {
-    const auto threads = threadCount();
-    DeviceBench bench;
-    bench.startQuietly();
-    for (int i = 0; i < 200; ++i) {
-        if (i % 3 == 0) bench.keyboard.emit(0x08, 0); // one on its way
-        bench.unplug();
-        bench.replug();
-    }
-    EXPECT_TRUE(comesTrue([&] { return threadCount() == threads + 1; }));
-    EXPECT_EQ(bench.hid.openDevices(), 2);
-    bench.told();
-    EXPECT_EQ(bench.event(0x03, 0), Words{"event 4"});
 }
 
 } // namespace

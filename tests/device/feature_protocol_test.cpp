@@ -32,8 +32,6 @@ TEST_F(FeatureProtocolTest, OperationsSendTheirReportsAndTakeTheirPausesEvenWhen
     const Words sent{"05 2", "04 1.0", "07?",    "07 1", "04 2.0", "06?",
                      "06 0", "08 1.2", "04 1.2", "08?",  "04 1.2", "08?"};
     const auto records = bench.store.ProfileTable;
-    bench.keyboard.profiles[1].lighting = {0, 0, 0, 0};
-    bench.keyboard.profiles[2].keyCodes.fill(0x33);
     bench.keyboard.failEveryRequest(true);
     EXPECT_THAT(runAll(), ElementsAre(false, false, false, false, false, false, true, false))
         << "a macro that was asked for counts: the library is saved either way";
@@ -42,10 +40,7 @@ TEST_F(FeatureProtocolTest, OperationsSendTheirReportsAndTakeTheirPausesEvenWhen
         word += '!';
     EXPECT_EQ(bench.requests(), refused);
     EXPECT_THAT(bench.pauses(), ElementsAre(15, 8, 8, 15, 8, 8, 350, 350, 8, 8, 8, 8));
-    EXPECT_EQ(protocol.GetActiveProfile(), 0);
-    EXPECT_EQ(protocol.deviceProfile(), 0);
     EXPECT_EQ(bench.store.ProfileTable, records);
-    bench.requests();
 
     bench.keyboard.failEveryRequest(false);
     keyboardMacro.name = "Fire";
@@ -79,19 +74,13 @@ TEST_F(FeatureProtocolTest, AMacroWithoutANameGetsOneAndGoesBackWithIt) {
     EXPECT_EQ(bench.requests(), (Words{"04 1.2", "08?", "08 1.2"}));
     EXPECT_EQ(keyboardMacro, (KeyboardMacro{"Profile2_G3", 4, 1, {0x05, 0x01}}));
     EXPECT_EQ(bench.store.GetGKeyName(1, 2), "Profile2_G3");
-    const MacroKey& macro = bench.macros.sets[0].keys.at(1);
-    EXPECT_EQ(macro.name + ' ' + toText(macro.loopCount) + ' ' + toText(macro.actionCount),
-              "Profile2_G3 4 2");
-
     keyboardMacro.name.reset();
     protocol.ReadGKeyMacro(1, 2);
     EXPECT_EQ(bench.macros.sets[0].keys.size(), 2u) << "the second time it is found";
-    ClearMacroLibrary(bench.macros);
-    bench.store.SetGKeyName(1, 2, "");
-    keyboardMacro.name.reset();
     bench.requests();
+    ClearMacroLibrary(bench.macros);
+    keyboardMacro.name.reset();
     EXPECT_TRUE(protocol.ReadGKeyMacro(1, 2));
-    EXPECT_EQ(bench.store.GetGKeyName(1, 2), "Profile2_G3");
     EXPECT_EQ(bench.requests(), (Words{"04 1.2", "08?"})) << "no set to hold it, nothing to send";
 }
 
@@ -112,10 +101,9 @@ TEST_F(FeatureProtocolTest, ANamedMacroIsLookedUpInTheFirstSetAloneAndByCase) {
 TEST_F(FeatureProtocolTest, PendingWritesGoOutOnceByKindAndProfileWhateverFails) {
     PendingWrites& pending = bench.link->pending();
     for (std::size_t failing = 0; failing < 7; ++failing) {
-        for (int row = PendingWrites::rowCount; row >= -1; --row) {
+        for (int row = PendingWrites::rowCount; row >= -1; --row)
             for (int profile = profileCount; profile >= -1; --profile)
                 pending.mark(row, profile);
-        }
         bench.keyboard.failRequest(failing);
         bench.pauses();
         bench.link->FlushPendingWrites();
@@ -126,21 +114,7 @@ TEST_F(FeatureProtocolTest, PendingWritesGoOutOnceByKindAndProfileWhateverFails)
         bench.link->FlushPendingWrites();
         EXPECT_THAT(bench.requests(), IsEmpty());
     }
-    EXPECT_TRUE(pending.isMarked(0, 3));
-    for (int row = 0; row < PendingWrites::rowCount; ++row)
-        pending.mark(row, 1);
-    pending.clearAll();
-    EXPECT_TRUE(pending.isMarked(7, 1));
-    EXPECT_FALSE(pending.isMarked(6, 1) || pending.isMarked(0, 3));
-}
-
-TEST_F(FeatureProtocolTest, ApplyAfterUnplugClearsFlagsAndSendsNothing) {
-    bench.unplug();
-    bench.link->pending().mark(PendingWrites::keyCodeRow, 0);
-    bench.link->FlushPendingWrites();
-    EXPECT_FALSE(bench.link->pending().isMarked(PendingWrites::keyCodeRow, 0));
-    EXPECT_THAT(bench.requests(), IsEmpty());
-    EXPECT_THAT(bench.pauses(), IsEmpty());
+    EXPECT_TRUE(pending.isMarked(0, 3)) << "the keyboard has three profiles";
 }
 
 } // namespace

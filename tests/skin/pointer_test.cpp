@@ -96,18 +96,5 @@ TEST_F(PointerTest, ListFollowsThePointerAnswersAndIsFreedWhenItsOwnerClosesIt) 
     EXPECT_EQ(std::count(all.begin(), all.end(), Notice{CWndPopup::closingMessage, 0, 0}), 2);
 }
 
-TEST_F(PointerTest, ListsStandSideBySideAndTheOneLeftHearsOfIt) {
-    const auto open = [this](PopupPlace place, std::unique_ptr<CWndPopup> popup, int x, unsigned tag) {
-        dialog.popups().open(place, std::move(popup), Rect::at(x, 26, 1, 1), 0x500, tag);
-        EXPECT_TRUE(runUntil([&] { return dialog.popups().at(place)->isVisible(); }));
-    };
-    open(PopupPlace::Category, std::make_unique<CComboPopup>(), 10, 5);
-    open(PopupPlace::Multimedia, std::make_unique<CProfilePopup>(), 179, 6);
-    EXPECT_EQ(dialog.take(), (Notices{{1029, 5, 0}}));
-    EXPECT_TRUE(dialog.popups().at(PopupPlace::Category)->isVisible());
-    testing::click(on(dialog, {390, 290}));
-    EXPECT_TRUE(runUntil([this] { return dialog.notices == Notices{{1032, 6, 1}}; }));
-}
-
 } // namespace
 } // namespace tarnix

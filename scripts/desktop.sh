@@ -37,7 +37,12 @@ eventually() {
 
 # window ROLE: the identifier of the visible window of that class; in $window_id, too.
 window() {
-    for window_id in $(xdotool search --onlyvisible --name '^Tarnix Keyboard$' 2> /dev/null || true); do
+    local found
+    # A window that goes away during the search is an error to xdotool, and no answer.
+    until found=$(xdotool search --onlyvisible --name '^Tarnix Keyboard$' 2>&1) || [ -z "$found" ]; do
+        sleep 0.05
+    done
+    for window_id in $found; do
         if [[ $(xprop -id "$window_id" WM_WINDOW_ROLE 2> /dev/null) == *"\"$1\"" ]]; then
             echo "$window_id"
             return 0

@@ -129,19 +129,27 @@ TEST_F(ControlsTest, LinkTellsOfEnterAndLeaveButNotWhilePressed) {
     EXPECT_EQ(dialog.take(), (Notices{{2060, 0, 4}, {2060, 0, 5}, {2060, 0, 4}, {2060, 0, 1}, {2060, 0, 5}}));
 }
 
-TEST_F(ControlsTest, RegionButtonCopiesItsFrameUnstretchedAndLeavesTheKeyColourOut) {
+TEST_F(ControlsTest, StripsStretchTheirFramesAndRegionsCopyThemWithoutTheKeyColour) {
+    const auto expectPixels = [](CControlBase& control, std::initializer_list<Point> shown,
+                                 std::initializer_list<Point> leftOut, Color color) {
+        const auto surface = painted(control);
+        for (const Point at : shown)
+            EXPECT_EQ(surface->image().pixel(at), color) << at.x << ',' << at.y;
+        for (const Point at : leftOut)
+            EXPECT_EQ(surface->image().pixel(at), 0u) << at.x << ',' << at.y;
+    };
+    auto& pressed = button<CImageButton>(2001);
+    feed(pressed, "d");
+    expectPixels(pressed, {place.topLeft(), {59, 30}, {20, 45}, inside}, {rightEdge, bottomEdge, {19, 40}},
+                 frameColor(2));
+
     Canvas& bitmap = pictures.add(ResourceType::Bitmap, 387, {30, 8});
     bitmap.fill({0, 0, 30, 8}, 0x112233);
-    for (int i = 0; i < 3; ++i)
-        bitmap.fill(Rect::at(i * 10 + 2, 2, 6, 4), frameColor(i));
+    bitmap.fill(Rect::at(12, 2, 6, 4), frameColor(1));
     auto& region = dialog.make<CRegionButton>(0, 2004u, place);
     region.m_region = {0x10000 + 387, 0, 0, 7, 10, 8};
     feed(region, "m");
-    const auto surface = painted(region);
-    for (Point at : {Point{22, 32}, Point{27, 35}})
-        EXPECT_EQ(surface->image().pixel(at), frameColor(1));
-    for (Point at : {Point{21, 32}, Point{28, 32}, Point{22, 36}, Point{32, 32}})
-        EXPECT_EQ(surface->image().pixel(at), 0u) << at.x << ',' << at.y;
+    expectPixels(region, {{22, 32}, {27, 35}}, {{21, 32}, {28, 32}, {22, 36}, {32, 32}}, frameColor(1));
 }
 
 TEST_F(ControlsTest, TabSelectsItsPageBeforeItNotifiesAndShowsItEverywhere) {

@@ -57,24 +57,18 @@ class PopupsTest : public SkinTest {
 };
 
 TEST_F(PopupsTest, ListHasTheSizeOfItsRowsAndTellsOfALossOfActivationUntilItIsLetGo) {
-    MacroLibrary empty;
     struct Case {
         PopupPlace place;
         std::unique_ptr<CListPopup> popup;
         Size size;
         Notice lost;
     };
+    MacroLibrary empty;
     Case cases[] = {
         {PopupPlace::Category, std::make_unique<CComboPopup>(), {169, 134}, {1029, tag, 0}},
-        {PopupPlace::Multimedia, std::make_unique<CProfilePopup>(), {158, 134}, {1032, tag, 1}},
-        {PopupPlace::Web, std::make_unique<CDPIPopup>(), {158, 166}, {1042, tag, 2}},
-        {PopupPlace::Mouse, std::make_unique<CMultimediaPopup>(), {169, 118}, {1045, tag, 3}},
-        {PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(library), {158, 38}, {1047, tag, 4}},
         {PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(empty), {158, 10}, {1047, tag, 4}},
         {PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library), {194, 74}, {1055, tag, 5}},
-        {PopupPlace::LightBrightness, std::make_unique<CLightBrightnessPopup>(), {169, 86}, {1064, tag, 8}},
         {PopupPlace::LightMode, std::make_unique<CLightModePopup>(), {169, 262}, {1069, tag, 9}},
-        {PopupPlace::LightSpeed, std::make_unique<CLightSpeedPopup>(), {169, 54}, {1072, tag, 10}},
         {PopupPlace::LightSpeed, std::make_unique<CMacroSetPopup>(library, 3), {158, 22}, {1050, tag, 103}},
     };
     for (auto& [place, popup, size, lost] : cases) {
@@ -90,28 +84,20 @@ TEST_F(PopupsTest, ListHasTheSizeOfItsRowsAndTellsOfALossOfActivationUntilItIsLe
 }
 
 TEST_F(PopupsTest, EveryRowOfTheFixedListsAnswersWithItsOwnRecord) {
-    const auto check = [this](CListPopup& popup, auto bytesOfRow) {
-        for (std::size_t row = 0; row < popup.rows().size(); ++row) {
+    const auto check = [this](CListPopup& popup, const std::vector<std::array<std::uint8_t, 4>>& records) {
+        ASSERT_EQ(popup.rows().size(), records.size());
+        for (std::size_t row = 0; row < records.size(); ++row) {
             choose(popup, row);
             const auto got = takeAnswers();
             ASSERT_FALSE(got.empty());
-            EXPECT_EQ(got.back(), (Answer{{notify, tag, 0}, popup.rows()[row].text, bytesOfRow(row)}));
+            EXPECT_EQ(got.back(), (Answer{{notify, tag, 0}, popup.rows()[row].text, records[row]}));
         }
     };
-    using Bytes = std::array<std::uint8_t, 4>;
-    const auto counted = [](std::uint8_t first, int start) {
-        return [=](std::size_t row) {
-            return Bytes{first, static_cast<std::uint8_t>(start + static_cast<int>(row))};
-        };
-    };
-    const auto setting = [](std::size_t row) { return Bytes{static_cast<std::uint8_t>(row)}; };
-    const Bytes mouse[] = {{3, 1}, {3, 2}, {3, 4}, {3, 8}, {3, 16}, {4, 0}, {5, 0}};
-    check(open<CProfilePopup>(PopupPlace::Multimedia), counted(2, 0xA0));
-    check(open<CDPIPopup>(PopupPlace::Web), counted(2, 0xA8));
-    check(open<CMultimediaPopup>(PopupPlace::Mouse), [&](std::size_t row) { return mouse[row]; });
-    check(open<CLightModePopup>(PopupPlace::LightMode), setting);
-    check(open<CLightBrightnessPopup>(PopupPlace::LightBrightness), setting);
-    check(open<CLightSpeedPopup>(PopupPlace::LightSpeed), setting);
+    check(open<CProfilePopup>(PopupPlace::Multimedia),
+          {{2, 0xA0}, {2, 0xA1}, {2, 0xA2}, {2, 0xA3}, {2, 0xA4}, {2, 0xA5}, {2, 0xA6}, {2, 0xA7}});
+    check(open<CMultimediaPopup>(PopupPlace::Mouse),
+          {{3, 1}, {3, 2}, {3, 4}, {3, 8}, {3, 16}, {4, 0}, {5, 0}});
+    check(open<CLightSpeedPopup>(PopupPlace::LightSpeed), {{0}, {1}, {2}});
 }
 
 TEST_F(PopupsTest, CategoryListAnswersPressesAndHoversAndHasItsOwnMessages) {
@@ -121,8 +107,7 @@ TEST_F(PopupsTest, CategoryListAnswersPressesAndHoversAndHasItsOwnMessages) {
     for (std::size_t row = 0; row < 8; ++row) {
         popup.OnMouseMove(0, middle(popup, row));
         popup.OnMouseMove(0, popup.rows()[row].rect.topLeft());
-        EXPECT_EQ(dialog.take(), Notices{hovers[row]})
-            << "one message for a row, however the pointer moves on it";
+        EXPECT_EQ(dialog.take(), Notices{hovers[row]});
     }
     const std::string chinese = "\xC4\xAC\xC8\xCF\xB9\xA6\xC4\xDC";
     choose(popup, 0);
@@ -155,12 +140,10 @@ TEST_F(PopupsTest, MacroListsAnswerFromTheLibraryAsItIsNow) {
     choose(macros, 1);
     EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, 0}, "Water", {1}}}));
     CListPopup& sets = open(PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library));
-    for (const auto& [row, code] : {std::pair{0u, 2}, {1u, 3}, {3u, 0}, {4u, 1}}) {
+    for (const auto& [row, code] : {std::pair{0u, 2}, {1u, 3}, {3u, 0}, {4u, 1}}) { // 2 is a separator
         choose(sets, row);
         EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, code}, "", {}}}));
     }
-    sets.OnMouseMove(0, middle(sets, 2));
-    EXPECT_EQ(sets.hotRow(), -1) << "a separator is never hot";
 
     auto owned = std::make_unique<CMacroSetPopup>(library, 0);
     CListPopup& set = *owned;

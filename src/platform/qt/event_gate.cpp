@@ -1,9 +1,15 @@
 #include "event_gate.h"
 
+#include <sys/eventfd.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QWindow>
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -15,16 +21,11 @@ namespace {
 
 EventGate* g_gate = nullptr;
 
-/// Work from another thread, or the gate's note to itself when there is none.
-class WorkEvent : public QEvent {
-  public:
-    explicit WorkEvent(EventGate::Work what) : QEvent(type()), work(std::move(what)) {}
-    static Type type() {
-        static const auto number = static_cast<Type>(registerEventType());
-        return number;
-    }
-    EventGate::Work work;
-};
+/// The gate's note to itself that work waits.
+QEvent::Type deliveryType() {
+    static const auto number = static_cast<QEvent::Type>(QEvent::registerEventType());
+    return number;
+}
 
 bool isInput(const QObject& receiver, QEvent::Type type) {
     switch (type) {
@@ -68,13 +69,18 @@ bool blockedByModal(QObject* receiver) {
 
 } // namespace
 
-EventGate::EventGate() {
+EventGate::EventGate()
+    : m_postsSignal(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      m_postsNotifier(m_postsSignal, QSocketNotifier::Read) {
     g_gate = this;
+    connect(&m_postsNotifier, &QSocketNotifier::activated, this, [this] { takePosts(); });
     QCoreApplication::instance()->installEventFilter(this);
 }
 
 EventGate::~EventGate() {
     g_gate = nullptr;
+    m_postsNotifier.setEnabled(false);
+    close(m_postsSignal);
 }
 
 EventGate& EventGate::instance() {
@@ -91,7 +97,19 @@ void EventGate::enter(Work work) {
 }
 
 void EventGate::post(Work work) {
-    QCoreApplication::postEvent(this, new WorkEvent(std::move(work)));
+    const std::lock_guard lock(m_postsMutex);
+    m_posts.push_back(std::move(work));
+    constexpr std::uint64_t one = 1;
+    [[maybe_unused]] const auto written = write(m_postsSignal, &one, sizeof one);
+}
+
+void EventGate::takePosts() {
+    const std::lock_guard lock(m_postsMutex);
+    std::uint64_t count = 0;
+    [[maybe_unused]] const auto got = read(m_postsSignal, &count, sizeof count);
+    std::move(m_posts.begin(), m_posts.end(), std::back_inserter(m_waiting));
+    m_posts.clear();
+    askForDelivery();
 }
 
 EventGate::Shut::~Shut() {
@@ -102,7 +120,7 @@ EventGate::Shut::~Shut() {
 void EventGate::askForDelivery() {
     if (m_shut > 0 || m_deliveryAsked || m_waiting.empty()) return;
     m_deliveryAsked = true;
-    QCoreApplication::postEvent(this, new WorkEvent(nullptr));
+    QCoreApplication::postEvent(this, new QEvent(deliveryType()));
 }
 
 // One at a time, each from the event loop: what goes in may run a loop of its own, which then delivers the
@@ -117,13 +135,8 @@ void EventGate::deliverNext() {
 }
 
 bool EventGate::event(QEvent* event) {
-    if (event->type() != WorkEvent::type()) return QObject::event(event);
-    auto& work = static_cast<WorkEvent*>(event)->work;
-    if (work) {
-        enter(std::move(work));
-    } else {
-        deliverNext();
-    }
+    if (event->type() != deliveryType()) return QObject::event(event);
+    deliverNext();
     return true;
 }
 

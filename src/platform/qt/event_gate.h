@@ -6,8 +6,10 @@
 
 #include <QEvent>
 #include <QObject>
+#include <QSocketNotifier>
 #include <deque>
 #include <functional>
+#include <mutex>
 
 namespace tarnix {
 
@@ -41,8 +43,14 @@ class EventGate : public QObject {
   private:
     bool holding() const { return m_shut > 0 || !m_waiting.empty(); }
     void keep(QObject* receiver, const QEvent& event);
+    void takePosts();
     void askForDelivery();
     void deliverNext();
+
+    std::mutex m_postsMutex;
+    std::deque<Work> m_posts; ///< not yet seen by the user-interface thread
+    int m_postsSignal;        ///< an event descriptor, readable while there are posts
+    QSocketNotifier m_postsNotifier;
 
     std::deque<Work> m_waiting;
     int m_shut = 0;

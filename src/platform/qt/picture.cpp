@@ -74,10 +74,14 @@ void Picture::readColors(Point from, std::span<Color> colors) const {
     const QImage& image = pixels();
     const auto* stored =
         reinterpret_cast<const QRgb*>(image.constScanLine(from.y * m_scale)) + from.x * m_scale;
+    const auto colorOf = [](QRgb plain) { return rgb(qRed(plain), qGreen(plain), qBlue(plain)); };
+    if (image.format() == QImage::Format_RGB32 && m_scale == 1) {
+        std::transform(stored, stored + colors.size(), colors.begin(), colorOf);
+        return;
+    }
     const bool opaque = image.format() == QImage::Format_RGB32;
     for (Color& color : colors) {
-        const QRgb plain = opaque ? *stored : qUnpremultiply(*stored);
-        color = rgb(qRed(plain), qGreen(plain), qBlue(plain));
+        color = colorOf(opaque ? *stored : qUnpremultiply(*stored));
         stored += m_scale;
     }
 }

@@ -12,6 +12,8 @@ packages=(
     # tests and the tour on a virtual display
     libgtest-dev libgmock-dev xvfb xauth xdotool x11-utils x11-xserver-utils openbox imagemagick dbus procps
     trayer libglib2.0-bin python3-dbusmock
+    # checks of what is installed
+    udev desktop-file-utils appstream man-db groff-base bsdextrautils
 )
 
 missing=()

@@ -77,8 +77,10 @@ class StepWriter {
 
 std::optional<std::string> macroReportName(MacroReportView report) {
     const auto name = report.subspan(macroReport::name, macroReport::nameLength);
-    if (name[0] == noNameByte && name[1] == noNameByte) return std::nullopt;
-    return std::string(name.begin(), std::find(name.begin(), name.end(), std::uint8_t{0}));
+    const auto end = std::find(name.begin(), name.end(), std::uint8_t{0});
+    const bool none = name[0] == noNameByte && name[1] == noNameByte;
+    if (none || end == name.begin()) return std::nullopt;
+    return std::string(name.begin(), end);
 }
 
 void DecodeMacroReport(MacroKey& macro, MacroReportView report) {

@@ -51,7 +51,8 @@ static_assert(name + nameLength == loopCount && maxSteps == 96);
 using MacroReport = std::array<std::uint8_t, macroReport::length>;
 using MacroReportView = std::span<const std::uint8_t, macroReport::length>;
 
-/// The name that the keyboard holds (it may be empty), or none where it holds no name at all.
+/// The name that the keyboard holds, or none where it holds none: FF FF, or an empty name, which no library
+/// could keep.
 std::optional<std::string> macroReportName(MacroReportView report);
 
 /// Replaces the macro's actions, loop setting and step count, not its name, with the report's. Steps that the

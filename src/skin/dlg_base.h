@@ -47,6 +47,9 @@ class CDlgBase : public Window {
     ControlGroups& controls() { return m_controls; }
     const ControlGroups& controls() const { return m_controls; }
 
+    /// Makes the controls of a table in its order and puts them into a group.
+    void addControls(std::size_t group, std::span<const ControlRow> rows, Point origin = {});
+
     /// Prepares the background from a bitmap; without it everything stays as it is.
     void LoadBackground(unsigned bitmap);
     /// Cuts the window's outline: pure yellow pixels of the bitmap are outside.
@@ -87,8 +90,6 @@ class CDlgBase : public Window {
         m_controls.add(group, std::move(control));
         return added;
     }
-    /// Makes the controls of a table in its order and puts them into a group.
-    void addControls(std::size_t group, std::span<const ControlRow> rows, Point origin = {});
 
     MessageMap m_messages;
 

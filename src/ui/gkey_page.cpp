@@ -25,7 +25,7 @@ KeyAssignment assignment(const SelectionRecord& record) {
 } // namespace
 
 void GKeyPage::build(Point origin) {
-    buildControls(m_context.window, group::gKeyPage, gKeyFields, origin);
+    m_context.window.addControls(group::gKeyPage, gKeyFields, origin);
 }
 
 void GKeyPage::registerHandlers(MessageMap& map) {

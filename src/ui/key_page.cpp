@@ -8,11 +8,11 @@ namespace tarnix {
 
 void KeyPage::build(Point origin) {
     CDlgBase& window = m_context.window;
-    buildControls(window, group::keyPage, areaMarkers, origin);
+    window.addControls(group::keyPage, areaMarkers, origin);
     const ControlGroups::Group& page = window.controls().groups()[group::keyPage];
     for (std::size_t i = 0; i < m_pAreaMarker.size(); ++i)
         m_pAreaMarker[i] = dynamic_cast<CTabControl*>(page[i].get());
-    buildControls(window, group::keyPage, keyCaps, origin);
+    window.addControls(group::keyPage, keyCaps, origin);
 }
 
 void KeyPage::registerHandlers(MessageMap& map) {

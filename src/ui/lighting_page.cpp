@@ -42,7 +42,7 @@ const LightingPage::Setting LightingPage::settings[] = {
 };
 
 void LightingPage::build(Point origin) {
-    buildControls(m_context.window, group::lightingPage, lightingFields, origin);
+    m_context.window.addControls(group::lightingPage, lightingFields, origin);
 }
 
 void LightingPage::registerHandlers(MessageMap& map) {

@@ -60,7 +60,7 @@ void MacroPage::build(Point origin) {
     m_pLoopEdit =
         std::make_unique<EditField>(window, id::loopCountField, loopCountFieldRect.moved(origin.x, origin.y),
                                     EditStyle{.numbersOnly = true, .visible = false});
-    buildControls(window, group::macroPage, macroPageControls, origin);
+    window.addControls(group::macroPage, macroPageControls, origin);
     auto actionList = std::make_unique<CImageShowList>(
         window, id::actionList, actionListRect.moved(origin.x, origin.y), m_context.macros);
     actionList->LoadImages();
@@ -70,7 +70,7 @@ void MacroPage::build(Point origin) {
     macroList->SelectSet(0);
     window.controls().add(group::macroPage, std::move(actionList));
     window.controls().add(group::macroPage, std::move(macroList));
-    buildControls(window, group::macroPage, macroPageScrollBars, origin);
+    window.addControls(group::macroPage, macroPageScrollBars, origin);
     attach();
     refreshAll();
 }

@@ -33,9 +33,6 @@ struct MainWindowContext {
     CComboButton* field(WParam id) const { return window.control<CComboButton>(static_cast<unsigned>(id)); }
 };
 
-/// Builds the controls of a table into a group, moved by the client area's origin.
-void buildControls(CDlgBase& window, std::size_t group, std::span<const ControlRow> rows, Point origin);
-
 /// The control groups of the main window; all but the first are its pages.
 namespace group {
 inline constexpr std::size_t common = 0;

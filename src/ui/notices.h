@@ -1,4 +1,4 @@
-// Every text that the program shows in a notice. Where a text holds a full-width comma, that is the two bytes
+// The texts that the program shows in notices. Where a text holds a full-width comma, that is the two bytes
 // A3 AC (U+FF0C in GB2312). The wording is the product's, to the letter.
 #pragma once
 
@@ -34,10 +34,7 @@ inline constexpr std::string_view selectToImport = "Please select which Macro to
 inline constexpr std::string_view selectToExport = "Please select which Macro to export!";
 inline constexpr std::string_view importFailed = "The Import file is error!";
 
-// Recording. The three ways in which a macro is full differ in their spelling.
+// Recording; the recorder brings its own texts for a full macro.
 inline constexpr std::string_view selectToRecord = "Please select the macro which to record!";
-inline constexpr std::string_view fullWithShortDelay = "The Number of Action is full!";
-inline constexpr std::string_view fullWithLongDelay = "The number of action is full!";
-inline constexpr std::string_view fullWithoutDelays = "The number of action if full!";
 
 } // namespace tarnix::notices

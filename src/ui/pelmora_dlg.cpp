@@ -27,13 +27,13 @@ constexpr Size minimisedIcon{32, 32};
 /// The notification area's report of a double-click, a Win32 mouse message.
 constexpr LParam trayDoubleClick = 0x0203;
 
-/// Copies a picture's top left corner to `target`, as far as both reach.
-void copyPicture(Canvas& canvas, unsigned bitmap, const Rect& target) {
+/// Copies a picture's top left corner to `target`, as far as both reach, within `dirty`.
+void copyPicture(Canvas& canvas, unsigned bitmap, const Rect& target, const Rect& dirty) {
     const Image* image = resources().find(ResourceType::Bitmap, bitmap);
     if (!image) return;
-    const int width = std::min(target.width(), image->size().width);
-    const int height = std::min(target.height(), image->size().height);
-    canvas.draw(*image, Rect::at(0, 0, width, height), Rect::at(target.left, target.top, width, height));
+    const Rect whole = Rect::at(target.left, target.top, image->size().width, image->size().height);
+    const Rect shown = whole.common(target).common(dirty);
+    if (!shown.empty()) canvas.draw(*image, shown.moved(-target.left, -target.top), shown);
 }
 
 } // namespace
@@ -192,10 +192,10 @@ void CPelmoraDlg::repaintHoverPictures(LParam code) {
 
 void CPelmoraDlg::DrawWindow(Canvas& canvas, const Rect& dirty) {
     drawBackground(canvas, dirty);
-    copyPicture(canvas, pageBandImage(g_nMainPage), pageBand);
+    copyPicture(canvas, pageBandImage(g_nMainPage), pageBand, dirty);
     if (m_nHoverPicture != 0)
         copyPicture(canvas, m_nHoverPicture,
-                    m_nHoverPicture < firstRightHoverPicture ? leftHoverPicture : rightHoverPicture);
+                    m_nHoverPicture < firstRightHoverPicture ? leftHoverPicture : rightHoverPicture, dirty);
     DrawControls(canvas, dirty);
 }
 

@@ -97,25 +97,5 @@ TEST(MacroRecorder, FullMacroOnThePageSaysWhichWayItIsFull) {
     EXPECT_EQ(slow.macro.actionCount, 101u);
 }
 
-TEST(MacroRecorder, ManagerCountsNothingAndStopsSilentlyAt200Actions) {
-    Player manager(managerRecording, false);
-    manager.macro.commandCount = 42;
-    EXPECT_EQ(manager.play("41 down 41 up", 101).last.fullNotice, "");
-    EXPECT_EQ(manager.macro.actionCount, 200u);
-    manager.recorder.start(manager.macro);
-    EXPECT_EQ(manager.macro.actionCount, 0u);
-    EXPECT_EQ(manager.macro.commandCount, 42);
-}
-
-TEST(MacroRecorder, NewRecordingForgetsTheLastKeyAndTakesTheFirstWhateverTheCount) {
-    Player page(macroPageRecording, true);
-    page.play("41 down");
-    page.recorder.start(page.macro);
-    EXPECT_EQ(page.macro.actionCount + page.macro.commandCount, 0u);
-    page.macro.commandCount = 100;
-    EXPECT_EQ(page.play("41 down").last.fullNotice, "");
-    EXPECT_EQ(page.actions(), "41 down ");
-}
-
 } // namespace
 } // namespace tarnix

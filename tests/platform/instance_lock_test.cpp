@@ -55,25 +55,6 @@ TEST_F(InstanceLockTest, IsHeldByOneProcessUntilItLetsGo) {
     EXPECT_TRUE(otherProcessGetsLock("Some Program"));
 }
 
-TEST_F(InstanceLockTest, IsReleasedWhenItsHolderIsKilled) {
-    int ready[2];
-    ASSERT_EQ(::pipe(ready), 0);
-    const pid_t holder = ::fork();
-    if (holder == 0) {
-        const auto lock = acquireInstanceLock("Some Program");
-        const char got = lock ? 'y' : 'n';
-        if (::write(ready[1], &got, 1) == 1) ::pause();
-        ::_exit(0);
-    }
-    char got = 0;
-    ASSERT_EQ(::read(ready[0], &got, 1), 1);
-    EXPECT_EQ(got, 'y');
-    EXPECT_FALSE(otherProcessGetsLock("Some Program"));
-    ::kill(holder, SIGKILL);
-    ::waitpid(holder, nullptr, 0);
-    EXPECT_TRUE(otherProcessGetsLock("Some Program"));
-}
-
 TEST_F(InstanceLockTest, IsNotHandedDownToALaunchedProgram) {
     auto lock = acquireInstanceLock("Some Program");
     const fs::path fifo = folder / "fifo";

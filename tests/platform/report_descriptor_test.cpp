@@ -37,10 +37,8 @@ TEST(ReportDescriptor, GivesPageLengthAndIdsOfEachTopLevelCollection) {
     ASSERT_EQ(numbered.collections.size(), 2u);
     EXPECT_TRUE(numbered.usesReportIds);
     EXPECT_EQ(numbered.collections[0].inputReportLength, 5u);
-    EXPECT_TRUE(numbered.collections[0].inputReports.test(2) && numbered.collections[0].inputReports.test(3));
-    EXPECT_EQ(numbered.collections[1].usagePage, 0x0B);
+    EXPECT_EQ(numbered.collections[0].inputReports, std::bitset<256>(0b1100));
     EXPECT_EQ(numbered.collections[1].inputReportLength, 0u) << "feature reports are no input";
-    EXPECT_TRUE(numbered.collections[1].inputReports.none());
 }
 
 TEST(ReportDescriptor, FollowsExtendedUsagesLongItemsAndSavedGlobals) {
@@ -77,9 +75,7 @@ TEST(ReportDescriptor, StaysInBoundsWhateverTheDescriptorClaims) {
               maxReportLength);
 
     const Bytes unopened = Bytes{0xC0, 0xC0, 0xB4} + input(8, 3) + collection(0x0A, input(8, 1));
-    const ReportDescriptor result = parseReportDescriptor(unopened);
-    ASSERT_EQ(result.collections.size(), 1u);
-    EXPECT_EQ(result.collections[0].inputReportLength, 2u) << "items outside any collection belong to none";
+    EXPECT_EQ(parseReportDescriptor(unopened).collections.at(0).inputReportLength, 2u);
 
     EXPECT_EQ(parseReportDescriptor(Bytes(4096, 0xA1)).collections.size(), 1u);
 }

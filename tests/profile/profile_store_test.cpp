@@ -23,18 +23,6 @@ TEST(Numbers, TextsReadUpToTheFirstNonDigitAndSaturate) {
     EXPECT_EQ(toHexByte("-1"), 0x00);
 }
 
-TEST(ProfileStore, ResetRestoresDefaultsButKeepsUrls) {
-    ProfileStore store;
-    store.SetLightMode(3, 17);
-    store.SetGKeyUrl(3, 5, "/usr/bin/editor");
-    store.ResetProfile(3);
-    EXPECT_EQ(store.GetSetting(3, settingProfileName, PairText::Value), "Default4");
-    EXPECT_EQ(store.settingNumber(3, settingLightMode), 1);
-    EXPECT_EQ(*store.GetGKeySlot(3, 5), (GKeySlot{"CTRL+6", "/usr/bin/editor", {0x06, 0x01, 0x23}}));
-    EXPECT_EQ(store.record(3)->KeyCodes, DefaultKeyCodes);
-    EXPECT_EQ(*store.record(2), ProfileRecord{});
-}
-
 TEST(ProfileStore, IndexesOutOfRangeReadAsNothingAndWriteNowhere) {
     ProfileStore store;
     for (const int n : {INT_MIN, -1, 9, INT_MAX}) {
@@ -68,12 +56,8 @@ TEST(ProfileStore, EditsGoToTheCurrentProfileWithTheFallbacksForStrangeControls)
         EXPECT_EQ(store.record(1)->KeyCodes[10], 0x33);
     }
     EXPECT_EQ(store.ProfileTable[0], ProfileRecord{});
-
-    store.SetSlotPath(4, "/four");
     store.SetSlotPath(7, "/seven");
-    EXPECT_EQ(store.slotPath(4) + store.slotPath(0), "/four/seven");
-    store.SetSlotPath(0, "/zero");
-    EXPECT_EQ(store.slotPath(0), "/zero");
+    EXPECT_EQ(store.slotPath(0), "/seven");
 }
 
 } // namespace

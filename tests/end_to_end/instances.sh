@@ -16,7 +16,7 @@ second=$!
 desktop_pids+=("$second")
 eventually xdotool search --onlyvisible --pid $second
 xdotool windowactivate --sync "$(xdotool search --onlyvisible --pid $second)" key Return
-wait $second
+ended $second
 reports_are
 [ ! -e "$desktop/other/config" ] && [ "$(window CPelmoraDlg)" = "$first" ]
 

@@ -49,7 +49,7 @@ start_tray
 on_icon 3
 eventually windows_are 2
 xdotool key Up Return
-wait "$program_pid"
+ended "$program_pid"
 [ "$(grep -c 'program ends' "$keyboard_log")" = 1 ]
 kill "$tray"
 
@@ -76,5 +76,5 @@ eventually window CPelmoraDlg
 click CPelmoraDlg 147 231
 eventually window CKeyMapSettingDlg
 ask "$item" /MenuBar com.canonical.dbusmenu.Event "$(sed -E "s/.*\\(([0-9]+), [^(]*'Exit'.*/\\1/" <<< "$menu")" clicked '<0>' 0
-wait "$program_pid"
+ended "$program_pid"
 [ "$(grep -c 'program ends' "$keyboard_log")" = 1 ]

@@ -6,7 +6,7 @@
 #include <thread>
 #include <vector>
 
-#include "processes/figures.h"
+#include "figures.h"
 
 namespace tarnix::bench {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "processes/figures.h"
+#include "figures.h"
 #include "processes/line_reader.h"
 
 namespace tarnix::bench {

@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-#include "processes/figures.h"
+#include "figures.h"
 
 namespace tarnix::bench {
 

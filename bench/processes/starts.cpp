@@ -28,8 +28,16 @@ struct Contestant {
     Samples privateDirty{};
     Samples resident{};
     Samples exit{};
+    Samples toFirstReport{};
     Samples readOverPauses{};
+    Samples fromReadToFrame{};
 };
+
+void noteRead(Contestant& contestant, const WireSequence& read, SteadyTime started, SteadyTime frame) {
+    contestant.toFirstReport.add(Span(read.first - started));
+    contestant.readOverPauses.add(Span(read.last - read.first) - read.pauses);
+    contestant.fromReadToFrame.add(Span(frame - read.last) - read.lastPause);
+}
 
 void runOnce(Contestant& contestant, Screen& screen, const Tools& tools) {
     screen.settle();
@@ -38,7 +46,7 @@ void runOnce(Contestant& contestant, Screen& screen, const Tools& tools) {
     if (!frame) throw std::runtime_error(std::string(contestant.name) + " shows nothing");
     contestant.start.add(Span(*frame - process->started()));
     if (const auto read = wireSequence(process->output().take()))
-        contestant.readOverPauses.add(Span(read->last - read->first) - read->pauses);
+        noteRead(contestant, *read, process->started(), *frame);
     std::this_thread::sleep_for(restAfterStart);
     const Memory memory = process->memory();
     contestant.pss.add(memory.pss);
@@ -57,6 +65,14 @@ void print(const std::vector<Contestant>& contestants, double bareStart) {
             {each.name, number(median, 1), number(each.start.least(), 1), number(median / bareStart, 2)});
     }
     times.print();
+    Table parts({"Start with the keyboard", "to the first report", "read over pauses", "from read to frame"});
+    for (const Contestant& each : contestants) {
+        if (each.toFirstReport.empty()) continue;
+        parts.row({each.name, number(each.toFirstReport.median(), 1, " ms"),
+                   number(each.readOverPauses.median(), 1, " ms"),
+                   number(each.fromReadToFrame.median(), 1, " ms")});
+    }
+    parts.print();
     Table memory({"Memory", "PSS MB", "private dirty MB", "resident MB"});
     for (const Contestant& each : contestants)
         memory.row({each.name, number(each.pss.median(), 1), number(each.privateDirty.median(), 1),

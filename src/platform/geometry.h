@@ -37,6 +37,11 @@ struct Rect {
     constexpr bool intersects(const Rect& other) const {
         return left < other.right && other.left < right && top < other.bottom && other.top < bottom;
     }
+    /// What both cover; empty where they do not meet.
+    constexpr Rect common(const Rect& other) const {
+        return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+                std::min(bottom, other.bottom)};
+    }
     constexpr Rect moved(int dx, int dy) const { return {left + dx, top + dy, right + dx, bottom + dy}; }
     constexpr Rect inset(int by) const { return {left + by, top + by, right - by, bottom - by}; }
 

@@ -12,11 +12,6 @@ constexpr Color outsideColor = rgb(255, 255, 0);
 constexpr Color colorWithoutBitmap = 0xEFE2BA;
 constexpr int widestFade = 100;
 
-Rect common(const Rect& a, const Rect& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-            std::min(a.bottom, b.bottom)};
-}
-
 } // namespace
 
 int fadeWidthFor(Size window, Size bitmap) {
@@ -103,7 +98,7 @@ void Background::prepareFades(const Image& bitmap) {
 void Background::draw(Canvas& canvas, const Rect& dirty) const {
     if (!m_picture) return canvas.fill(dirty, color());
     if (dirty.right > m_size.width || dirty.bottom > m_size.height) canvas.fill(dirty, color());
-    const Rect covered = common(dirty, {0, 0, m_size.width, m_size.height});
+    const Rect covered = dirty.common({0, 0, m_size.width, m_size.height});
     if (!covered.empty()) canvas.draw(*m_picture, covered, covered);
 }
 

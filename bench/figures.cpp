@@ -1,4 +1,4 @@
-#include "processes/figures.h"
+#include "figures.h"
 
 #include <algorithm>
 #include <cstdio>

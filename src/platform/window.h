@@ -110,7 +110,9 @@ class Window {
     void update();
 
     // Pointer and keyboard.
-    void captureMouse();
+    /// In the handler of a press: what the pointer does comes to this window until the release. False when
+    /// that has been lost meanwhile, to a modal window that the handler ran.
+    bool captureMouse();
     void releaseMouse();
     /// Asks for one OnMouseLeave, and for OnMouseHover once the pointer has rested for `hoverTime` ms. True
     /// if granted.
@@ -147,6 +149,7 @@ class Window {
     virtual void OnPaint(Canvas& canvas, const Rect& dirty);
     virtual void OnMouseMove(unsigned flags, Point at);
     virtual void OnLButtonDown(unsigned flags, Point at);
+    /// At (-1, -1) when a modal window has taken the release away.
     virtual void OnLButtonUp(unsigned flags, Point at);
     virtual void OnLButtonDblClk(unsigned flags, Point at);
     virtual void OnMouseWheel(int delta, Point at); ///< 120 a notch, positive away from the user

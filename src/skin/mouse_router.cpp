@@ -63,9 +63,9 @@ void MouseRouter::press(unsigned flags, Point at) {
     m_focus = hot;
     m_pressed = hot->GetRect();
     if (hot->OnLButtonDown(flags, at)) repaint(hot);
-    if (!m_buttonDown) return; // the handler ran a dialog, which saw the release
-    m_window.captureMouse();
-    m_captured = true;
+    if (!m_buttonDown) return; // the handler ran a dialog, and the release was cancelled
+    m_captured = m_window.captureMouse();
+    if (!m_captured) release(flags, outside);
 }
 
 void MouseRouter::startMove() {

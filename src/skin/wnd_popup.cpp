@@ -78,8 +78,7 @@ void CWndPopup::OnMouseMove(unsigned, Point at) {
 void CWndPopup::OnLButtonDown(unsigned, Point at) {
     const Busy busy(*this);
     m_bButtonDown = true;
-    captureMouse();
-    m_bCaptured = true;
+    m_bCaptured = captureMouse();
     if (OnPopupLButtonDown(at)) invalidate();
 }
 

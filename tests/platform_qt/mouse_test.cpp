@@ -66,20 +66,6 @@ TEST_F(Mouse, CaptureBringsWhatHappensOutsideAndLeaveComesAfterTheRelease) {
     EXPECT_THAT(m_log, IsEmpty()) << "the capture is over";
 }
 
-TEST_F(Mouse, CaptureWithoutAButtonHoldsUntilItIsReleased) {
-    showMain(m_window);
-    movePointer({150, 180});
-    ASSERT_TRUE(logged("move 0 50,60"));
-    m_window.captureMouse();
-    movePointer({700, 600});
-    EXPECT_TRUE(logged("move 0 600,480"));
-    m_window.releaseMouse();
-    m_log.clear();
-    movePointer({720, 610});
-    settle();
-    EXPECT_THAT(m_log, IsEmpty());
-}
-
 TEST_F(Mouse, WithoutCaptureAPressedPointerThatGoesOutLeavesAndItsReleaseIsNotHeard) {
     showMain(m_window);
     m_window.tracks = true;

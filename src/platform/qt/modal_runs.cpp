@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QEvent>
 #include <QEventLoop>
+#include <QMouseEvent>
 #include <algorithm>
 #include <functional>
 #include <vector>
@@ -123,8 +124,12 @@ bool isShutOut(const Window& window) {
 
 bool isShutOut(QObject& receiver, QEvent& event) {
     if (!receiver.isWidgetType() || !isUsersWork(event.type())) return false;
-    const auto* widget = dynamic_cast<WindowWidget*>(static_cast<QWidget&>(receiver).window());
+    auto* widget = dynamic_cast<WindowWidget*>(static_cast<QWidget&>(receiver).window());
     if (!widget || !widget->window() || !isShutOut(*widget->window())) return false;
+    // A press that opened the modal window, or was there before it, still has to end.
+    if (event.type() == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent&>(event).button() == Qt::LeftButton)
+        widget->cancelPress();
     event.ignore();
     return true;
 }

@@ -23,7 +23,8 @@ bool runsModally(const Window& window);
 Window* modalWindow();
 /// Whether a modal run keeps the user from working in the window.
 bool isShutOut(const Window& window);
-/// True when the event is the user's work in a window that is shut out.
+/// True when the event is the user's work in a window that is shut out. A release then cancels the window's
+/// press.
 bool isShutOut(QObject& receiver, QEvent& event);
 
 /// Runs one of the toolkit's own dialogs. True when accepted.

@@ -5,18 +5,13 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QWindow>
+#include <utility>
 
 #include "event_gate.h"
 #include "window_widget.h"
 #include "x11.h"
 
 namespace tarnix {
-
-namespace {
-
-QPointer<WindowWidget> g_capturing; ///< at most one window captures
-
-} // namespace
 
 unsigned mouseFlags(Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) {
     unsigned flags = 0;
@@ -34,24 +29,16 @@ Pointer::Pointer(WindowWidget& widget) : m_widget(widget) {
     QObject::connect(&m_hoverTimer, &QTimer::timeout, &widget, [this] { hover(); });
 }
 
-void Pointer::capture() {
-    if (g_capturing && g_capturing != &m_widget) g_capturing->pointer().release();
-    g_capturing = &m_widget;
-    m_captured = true;
-    grabIfFree();
-}
-
-// While a button is down the display server's own grab does the work.
-void Pointer::grabIfFree() {
-    if (QGuiApplication::mouseButtons() == Qt::NoButton && QWidget::mouseGrabber() != &m_widget)
-        m_widget.grabMouse();
+// A button that is down holds the pointer already, and its release lets go of it. A grab of our own would
+// outlive a release that another window keeps from this one.
+bool Pointer::capture() {
+    m_captured = m_button != Button::Lost;
+    return m_captured;
 }
 
 void Pointer::release() {
     if (!m_captured) return;
     m_captured = false;
-    g_capturing.clear();
-    if (QWidget::mouseGrabber() == &m_widget) m_widget.releaseMouse();
     // A leave that the capture kept back comes after the handler that let go.
     EventGate::instance().post([this, widget = QPointer<QWidget>(&m_widget)] {
         if (widget && !m_captured && !isInside()) leave();
@@ -76,7 +63,8 @@ void Pointer::startMove() {
     m_grip = QCursor::pos() - m_widget.pos();
 }
 
-void Pointer::pressed() {
+void Pointer::pressed(const QMouseEvent& event) {
+    if (event.button() == Qt::LeftButton) m_button = Button::Down;
     m_moving = Moving::No;
     if (m_hoverWanted) m_hoverTimer.start();
 }
@@ -96,15 +84,19 @@ bool Pointer::moved(const QMouseEvent& event) {
 bool Pointer::releasing(const QMouseEvent& event) {
     const bool endsMove = m_moving != Moving::No;
     m_moving = Moving::No;
+    m_button = Button::Up;
     return !endsMove && (m_captured || m_widget.rect().contains(event.position().toPoint()));
 }
 
+bool Pointer::cancel() {
+    if (m_button != Button::Down) return false;
+    m_button = Button::Lost;
+    return std::exchange(m_moving, Moving::No) == Moving::No;
+}
+
 void Pointer::released() {
-    if (m_captured) {
-        grabIfFree();
-    } else if (!isInside()) {
-        leave();
-    }
+    m_captured = false;
+    if (!isInside()) leave();
 }
 
 void Pointer::left() {
@@ -114,9 +106,8 @@ void Pointer::left() {
 void Pointer::windowHidden() {
     m_moving = Moving::No;
     m_hoverTimer.stop();
-    if (g_capturing == &m_widget) g_capturing.clear();
+    if (m_button == Button::Down) m_button = Button::Lost;
     m_captured = false;
-    if (QWidget::mouseGrabber() == &m_widget) m_widget.releaseMouse();
 }
 
 bool Pointer::isInside() const {

@@ -20,31 +20,35 @@ class Pointer {
   public:
     explicit Pointer(WindowWidget& widget);
 
-    void capture();
+    /// False when the button's release has been cancelled since the press.
+    bool capture();
     void release();
     bool track(int hoverTime);
     void startMove();
 
-    void pressed();
+    void pressed(const QMouseEvent& event);
     /// False when the window does not hear of the movement.
     bool moved(const QMouseEvent& event);
     /// False when the window does not hear of the release.
     bool releasing(const QMouseEvent& event);
-    /// After the window has heard of the release.
+    /// The release goes to nobody. False when the window waits for none.
+    bool cancel();
+    /// After the window has heard of the release, or of its cancelling.
     void released();
     void left();
     void windowHidden();
 
   private:
     enum class Moving { No, BySystem, BySelf };
+    enum class Button { Up, Down, Lost };
 
     bool isInside() const;
-    void grabIfFree();
     void leave();
     void hover();
 
     WindowWidget& m_widget;
     QTimer m_hoverTimer;
+    Button m_button = Button::Up; ///< the left one; lost when its release was cancelled
     bool m_captured = false;
     bool m_tracking = false;
     bool m_hoverWanted = false;

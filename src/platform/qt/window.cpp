@@ -226,8 +226,8 @@ void Window::update() {
     if (exists()) m_native->widget->paintNow();
 }
 
-void Window::captureMouse() {
-    if (exists()) m_native->widget->pointer().capture();
+bool Window::captureMouse() {
+    return exists() && m_native->widget->pointer().capture();
 }
 
 void Window::releaseMouse() {

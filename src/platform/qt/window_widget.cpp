@@ -172,7 +172,7 @@ void WindowWidget::tick(unsigned id) {
 }
 
 void WindowWidget::mousePressEvent(QMouseEvent* event) {
-    m_pointer.pressed();
+    m_pointer.pressed(*event);
     g_lastPressed = this;
     call([](Window& window) { Activation::instance().pressed(window); });
     if (event->button() != Qt::LeftButton) return;
@@ -188,7 +188,7 @@ void WindowWidget::mouseDoubleClickEvent(QMouseEvent* event) {
         mousePressEvent(event);
         return;
     }
-    m_pointer.pressed();
+    m_pointer.pressed(*event);
     call([](Window& window) { Activation::instance().pressed(window); });
     if (event->button() != Qt::LeftButton) return;
     call([event](Window& window) {
@@ -206,6 +206,12 @@ void WindowWidget::mouseReleaseEvent(QMouseEvent* event) {
                                fromQt(event->position().toPoint()));
         });
     }
+    if (m_window) m_pointer.released();
+}
+
+void WindowWidget::cancelPress() {
+    if (!m_pointer.cancel()) return;
+    call([](Window& window) { window.OnLButtonUp(0, {-1, -1}); });
     if (m_window) m_pointer.released();
 }
 

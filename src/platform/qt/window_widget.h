@@ -53,6 +53,8 @@ class WindowWidget : public QWidget {
     void paintNow();
     void setTimer(unsigned id, int milliseconds);
     void endTimer(unsigned id) { m_timers.erase(id); }
+    /// The release of a press that the window has heard of belongs to nobody: the press did nothing.
+    void cancelPress();
     Pointer& pointer() { return m_pointer; }
 
   protected:

@@ -7,7 +7,8 @@ constexpr Size osdSize{300, 56};
 constexpr int osdOpacity = 128;
 constexpr Color osdBackground = rgb(164, 73, 164);
 constexpr Point textAt{30, 14};
-constexpr TextFormat textFormat{.height = 24, .averageWidth = 12, .weight = 700, .color = rgb(255, 255, 255)};
+constexpr TextFormat textFormat{
+    .height = 24, .weight = 700, .color = rgb(255, 255, 255), .shrinks = true, .ellipsis = false};
 
 } // namespace
 

@@ -39,15 +39,15 @@ class Image {
     virtual void readRow(int y, std::span<Color> colors) const = 0;
 };
 
-/// How a line of text is set. Height and width 0 leave the choice to the platform.
+/// How a line of text is set.
 struct TextFormat {
-    int height = 0;       ///< pixels from ascender to descender
-    int averageWidth = 0; ///< average character width in pixels; a wish: letters are never stretched
-    int weight = 400;     ///< 400 normal, 700 bold
+    int height = 0;   ///< pixels from ascender to descender; 0 leaves the choice to the platform
+    int weight = 400; ///< 400 normal, 700 bold
     Color color = 0;
     bool centred = false;         ///< else flush left
     bool verticalCentred = false; ///< else flush top
-    bool ellipsis = true;         ///< a line that does not fit ends in an ellipsis
+    bool shrinks = false;         ///< a line that does not fit is set smaller, as long as it can be read
+    bool ellipsis = true;         ///< a line that does not fit even so ends in an ellipsis
 };
 
 /// What is painted on, in the coordinates of its window or picture. All operations are clipped.

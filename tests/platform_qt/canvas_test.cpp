@@ -122,5 +122,14 @@ TEST(CanvasText, ALineThatDoesNotFitEndsBetweenCharactersOrInAnEllipsis) {
               inkOf("iiiiiiiiiiiiiiiiiiiiiiiiiiiii", Rect::at(0, 0, 60, 20), {.ellipsis = false}).pixels);
 }
 
+TEST(CanvasText, ALineThatShrinksShowsItsEndAndStaysAsLargeAsItCan) {
+    const Rect area = Rect::at(0, 0, 200, 24);
+    const TextFormat format{.height = 24, .shrinks = true, .ellipsis = false};
+    const Ink wide = inkOf("WWWWWWWWWWWWWWi", area, format);
+    EXPECT_LE(wide.bounds.right, 200);
+    EXPECT_NE(wide.pixels, inkOf("WWWWWWWWWWWWWWW", area, format).pixels);
+    EXPECT_EQ(inkOf("WWW", area, format).pixels, inkOf("WWW", area, {.height = 24}).pixels);
+}
+
 } // namespace
 } // namespace tarnix

@@ -11,12 +11,22 @@ namespace {
 /// From ascender to descender, where the format leaves the height open: the controls' usual 12-pixel letters.
 constexpr int usualHeight = 15;
 
+/// In pixels; smaller letters run together.
+constexpr int smallestLetters = 8;
+
 /// Inter is what the art is set in; DejaVu Sans is on every desktop; the Chinese faces are those that
 /// distributions ship.
 const QStringList& families() {
     static const QStringList names{"Inter", "DejaVu Sans", "WenQuanYi Micro Hei", "Noto Sans CJK SC",
                                    "sans-serif"};
     return names;
+}
+
+/// The font, smaller until the text fits.
+QFont shrunk(QFont font, const QString& text, int width) {
+    while (font.pixelSize() > smallestLetters && QFontMetrics(font).horizontalAdvance(text) > width)
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
 }
 
 /// Keeps as many whole characters, as the user sees them, as fit.
@@ -45,7 +55,7 @@ QFont fontFor(const TextFormat& format) {
 
 FittedLine fitLine(const QString& text, int width, const TextFormat& format) {
     FittedLine line;
-    line.font = fontFor(format);
+    line.font = format.shrinks ? shrunk(fontFor(format), text, width) : fontFor(format);
     const QFontMetrics metrics(line.font);
     line.ascent = metrics.ascent();
     line.height = metrics.height();

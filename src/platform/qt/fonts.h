@@ -8,13 +8,13 @@
 
 namespace tarnix {
 
-/// The font of a format. Its natural proportions are kept: the format's average width is a wish of other
-/// typefaces.
+/// The font of a format, in its natural proportions.
 QFont fontFor(const TextFormat& format);
 
 /// A line that fits its place.
 struct FittedLine {
-    QString text; ///< shortened between characters, with an ellipsis if the format asks for it
+    QString text; ///< where setting it smaller is not enough or not asked for, shortened between characters,
+                  ///< with an ellipsis if the format asks for it
     QFont font;
     int width = 0;
     int ascent = 0;

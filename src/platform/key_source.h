@@ -12,13 +12,16 @@ struct WindowKey {
     bool down = true;      ///< a release otherwise; the desktop's repetitions are not reported
 };
 
+class Window;
+
 /// While at least one of these lives, the program's windows act on no key: Escape, Enter, Tab and Space
-/// close, end and press nothing, and no field is typed into. The keys that the windows would have got are
-/// handed to the listener. The user-interface thread's alone.
+/// close, end and press nothing, and no field is typed into. Only a modal window over the target, a notice,
+/// can be answered by keys. All keys of the program's windows are handed to the listener. The user-interface
+/// thread's alone.
 class KeyInterception {
   public:
-    /// The listener may be none.
-    explicit KeyInterception(std::function<void(const WindowKey&)> listener);
+    /// For the window that takes the keys. The listener may be none.
+    KeyInterception(const Window& target, std::function<void(const WindowKey&)> listener);
     ~KeyInterception();
     KeyInterception(const KeyInterception&) = delete;
     KeyInterception& operator=(const KeyInterception&) = delete;

@@ -14,7 +14,7 @@ inline constexpr unsigned WM_KEYHOOK = 0x401;
 
 /// Reports every key press and release of the session to one window while it runs; the keys reach other
 /// programs too. Where the session gives no system-wide keys, those that reach the program's own windows.
-/// While a hook runs, the program's own windows do not act on keys.
+/// While a hook runs, the program's own windows do not act on keys, but for a modal window over its target.
 class CKeyboardHook {
   public:
     CKeyboardHook();

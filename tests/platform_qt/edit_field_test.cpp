@@ -116,7 +116,7 @@ TEST_F(Edit, WhileKeysAreInterceptedNoWindowAndNoFieldActsOnThem) {
     std::vector<std::pair<unsigned, bool>> keys;
     {
         const KeyInterception interception(
-            [&](const WindowKey& key) { keys.emplace_back(key.scanCode, key.down); });
+            m_window, [&](const WindowKey& key) { keys.emplace_back(key.scanCode, key.down); });
         tapKey("Escape");
         tapKey("a");
         ASSERT_TRUE(runUntil([&] { return keys.size() == 4; }));

@@ -30,9 +30,10 @@ struct CKeyboardHook::Native {
     explicit Native(Window& target)
         : session(RawKeys::listen(
               [&target](const RawKey& key) { postKey(target, key.evdevCode, key.down, key.time); })),
-          windows(session ? nullptr : std::function<void(const WindowKey&)>([&target](const WindowKey& key) {
-              postKey(target, key.scanCode, key.down, milliseconds());
-          })) {}
+          windows(target,
+                  session ? nullptr : std::function<void(const WindowKey&)>([&target](const WindowKey& key) {
+                      postKey(target, key.scanCode, key.down, milliseconds());
+                  })) {}
 
     std::unique_ptr<RawKeys> session; ///< none where the session gives no system-wide keys
     KeyInterception windows; ///< keeps the program's own windows from acting; else the source of keys

@@ -5,7 +5,7 @@ class QEvent;
 
 namespace tarnix {
 
-/// True when the event is a key and goes to the running hook instead of its window.
+/// Reports a key to the running hooks. True when it goes to them instead of its window.
 bool interceptKey(const QEvent& event);
 
 } // namespace tarnix

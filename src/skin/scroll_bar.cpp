@@ -46,7 +46,7 @@ bool CVScrollBar::LoadImages() {
 void CVScrollBar::SetScrollState(int position, int page, int range) {
     if (range == 0) {
         m_thumb = m_track;
-        return;
+        return repaint();
     }
     m_nPosition = position;
     m_nPage = page;

@@ -22,6 +22,7 @@ inline constexpr LParam NOTIFY_LEAVE = 5; ///< the pointer left a link
 inline constexpr LParam NOTIFY_NAME_ADDED = 11;    ///< a macro list took a new name
 inline constexpr LParam NOTIFY_NAME_REPEATED = 12; ///< the typed name exists already
 inline constexpr LParam NOTIFY_NAME_TOO_LONG = 13; ///< the typed name is longer than a macro's name may be
+inline constexpr LParam NOTIFY_NAME_DROPPED = 14;  ///< the user closed the field without a name
 
 /// Looks of a control under the pointer; the values are frame numbers too.
 inline constexpr int mouseNormal = 0;

@@ -116,7 +116,7 @@ bool CDlgBase::closeNameField() {
     m_controls.forEach([&closed](CControlBase& control) {
         auto* list = dynamic_cast<CEditShowList*>(&control);
         if (!list || !list->isEditing()) return;
-        list->CloseEditor();
+        list->DropNewName();
         closed = true;
     });
     return closed;

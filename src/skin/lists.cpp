@@ -76,16 +76,17 @@ void CEditShowList::ScrollToEnd() {
 int CEditShowList::BeginNewName() {
     if (m_editor) return 0;
     if (!shownSet()) return 1;
-    int line = rowCount();
-    if (line >= m_nVisibleRows) {
-        m_nFirstRow = rowCount() - m_nVisibleRows + 1;
-        line = m_nVisibleRows - 1;
-    }
-    Rect field = rowRect(line);
+    m_nFirstRow = std::max(rowCount() + 1 - m_nVisibleRows, 0);
+    Rect field = rowRect(rowCount() - m_nFirstRow);
     field.top += 2;
     m_editor = std::make_unique<EditField>(m_hOwner, editorId, field);
     m_editor->setFocus();
     return 1;
+}
+
+void CEditShowList::DropNewName() {
+    CloseEditor();
+    notifyOwner(NOTIFY_NAME_DROPPED);
 }
 
 std::string CEditShowList::editorText() const {

@@ -57,6 +57,8 @@ class CEditShowList : public CRowList {
     std::string editorText() const;
     /// Closes the field without taking its text.
     void CloseEditor() { m_editor.reset(); }
+    /// The same at the user's wish, which the owner hears of.
+    void DropNewName();
 
     int currentSet() const { return m_nSet; }
     int rowCount() const override;

@@ -40,9 +40,13 @@ class NotingEditor : public MacroEditor {
     using MacroEditor::MacroEditor;
     std::vector<std::string> notes;
     std::string protectedName;
+    std::function<void()> showNotice; ///< shown with every refusal
 
   protected:
-    void onRefusal(MacroRefusal refusal) override { notes.push_back(refused(refusal)); }
+    void onRefusal(MacroRefusal refusal) override {
+        notes.push_back(refused(refusal));
+        if (showNotice) showNotice();
+    }
     void onRecordingFull(std::string_view notice) override { notes.emplace_back(notice); }
     void onLibraryChanged() override { notes.emplace_back("changed"); }
     bool isDeletable(const MacroKey& macro) override { return macro.name != protectedName; }
@@ -79,6 +83,14 @@ class EditorWindow : public CDlgBase {
         editor.macros().SelectSet(0);
         editor.refresh();
     }
+};
+
+class Notice : public CDlgBase {
+  public:
+    explicit Notice(Window& owner) : CDlgBase({.owner = &owner, .role = "Notice"}, {200, 100}) {}
+
+  protected:
+    void BuildControls(const Rect&) override {}
 };
 
 /// Opens the name field unless it is open, types the name, does what ends naming, and answers what stands in
@@ -135,6 +147,26 @@ TEST(MacroEditor, ANameThatTheListRefusesStaysInItsFieldForCorrection) {
     EXPECT_THAT(page.editor.notes, ElementsAre(refused(MacroRefusal::ListNameTaken),
                                                refused(MacroRefusal::ListNameTooLong), "changed", "changed"));
     EXPECT_THAT(macroNames(page.library), ElementsAre("Ice"));
+}
+
+TEST(MacroEditor, ANoticeThatOpensInAPressTakesItsReleaseAndTheNextClickWorks) {
+    EditorWindow page(macroPageRules, {"Fire"});
+    page.editor.showNotice = [&page] { Notice(page).DoModal(); };
+    playIn(page, [&](UiScenario& ui) {
+        const auto clickAndDismiss = [&](Point at) {
+            EXPECT_TRUE(UiScenario::clickWindow("EditorWindow", at));
+            EXPECT_TRUE(UiScenario::windowShown("Notice", {200, 100}));
+            UiScenario::keys("Escape");
+            EXPECT_TRUE(UiScenario::windowShown("EditorWindow", {400, 160}));
+        };
+        EXPECT_EQ(nameMacro(ui, page, "Fire", [] {}), "Fire");
+        clickAndDismiss({50, 50});
+        EXPECT_TRUE(ui.until([&] { return page.editor.isNaming(); })) << "the list keeps its field";
+        clickAndDismiss({5, 125});
+        EXPECT_TRUE(ui.until([&] { return !page.editor.isNaming(); })) << "the button was not clicked";
+        EXPECT_TRUE(UiScenario::clickWindow("EditorWindow", {35, 135}));
+        EXPECT_TRUE(ui.until([&] { return page.editor.isNaming(); }));
+    });
 }
 
 TEST(MacroEditor, SaysWhatItCannotDo) {
@@ -225,6 +257,26 @@ TEST(MacroEditor, WheelAndScrollBarMoveTheListWithinItsRows) {
         page.send(ids.macroScrollBar, 0, NOTIFY_DRAG);
         note();
         EXPECT_THAT(rows, ElementsAre(0, 0, 1, 5, 6, 6, 6, 5, 5, 1, 3)) << "ten rows, four on the screen";
+    });
+}
+
+TEST(MacroEditor, AListThatGetsShorterIsScrolledBackToItsLastRows) {
+    EditorWindow page(macroPageRules, {"a", "b", "c", "d", "e", "f"});
+    page.play([&] {
+        CEditShowList& list = page.editor.macros();
+        list.ScrollToEnd();
+        list.m_nSelected = 5;
+        clickControl(page, ids.deleteMacro);
+        EXPECT_EQ(list.m_nFirstRow, 1) << "five rows, four on the screen";
+        clickControl(page, ids.newMacro);
+        EXPECT_EQ(list.m_nFirstRow, 2) << "the field is a row, too";
+        page.OnKey({KeyPress::Key::Escape, true});
+        EXPECT_FALSE(page.editor.isNaming());
+        EXPECT_EQ(list.m_nFirstRow, 1);
+        EXPECT_EQ(page.control<CVScrollBar>(ids.macroScrollBar)->position(), 1);
+        page.library.sets[0].keys.resize(2);
+        page.editor.refresh();
+        EXPECT_EQ(list.m_nFirstRow, 0);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace tarnix {
 
@@ -43,6 +44,8 @@ MacroKey* MacroEditor::selectedMacro() {
 }
 
 void MacroEditor::refresh() {
+    keepWithinRows(*m_macros, m_macros->rowCount() + (isNaming() ? 1 : 0));
+    keepWithinRows(*m_actions, m_actions->rowCount());
     const bool any = selectedMacro() != nullptr;
     const int set = any ? m_macros->currentSet() : -1;
     const int macro = any ? m_macros->m_nSelected : -1;
@@ -66,6 +69,11 @@ void MacroEditor::refreshAll() {
 void MacroEditor::onShown(MacroKey&) {}
 
 // Scrolling.
+
+void MacroEditor::keepWithinRows(CRowList& list, int rows) {
+    const int first = std::clamp(list.m_nFirstRow, 0, std::max(0, rows - list.m_nVisibleRows));
+    if (std::exchange(list.m_nFirstRow, first) != first) list.repaint();
+}
 
 void MacroEditor::scrollTo(CRowList& list, CVScrollBar& bar, int firstRow) {
     const int last = std::max(0, list.rowCount() - list.m_nVisibleRows);
@@ -151,13 +159,15 @@ void MacroEditor::pressAt(Point at) {
     if (!deleteButton || !deleteButton->hit(at))
         commitName();
     else if (m_rules.deleteClosesEditor)
-        m_macros->CloseEditor();
+        m_macros->DropNewName();
 }
 
 void MacroEditor::onListNotification(LParam code) {
     switch (code) {
         case NOTIFY_CLICK:
             if (!isNaming()) m_window.setFocus();
+            return refresh();
+        case NOTIFY_NAME_DROPPED:
             return refresh();
         case NOTIFY_NAME_ADDED:
             return onLibraryChanged();

@@ -112,6 +112,8 @@ class MacroEditor {
   private:
     void onListNotification(LParam code);
     void onScrollBar(CRowList& list, CVScrollBar& bar, WParam part, LParam code);
+    /// A list may have fewer rows than when it was scrolled; the field for a new name is a row, too.
+    static void keepWithinRows(CRowList& list, int rows);
     void scrollTo(CRowList& list, CVScrollBar& bar, int firstRow);
     std::optional<MacroRefusal> nameFault(std::string_view name) const;
     void startRecording(MacroKey& macro);

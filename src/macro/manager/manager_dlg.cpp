@@ -63,7 +63,7 @@ CMacroManagerDlg::CMacroManagerDlg(Window* owner, Files& files, std::string prog
     m_editor.registerHandlers(m_messages);
     m_messages.onClick(manager::okButton, [this] { save(); })
         .onClick(manager::openSetList, [this] { openSetList(); })
-        .on(manager::setListChosen, [this](WParam, LParam code) { onSetListChosen(static_cast<int>(code)); })
+        .on(manager::setListChosen, [this](WParam, LParam code) { onSetListChosen(code); })
         .on(manager::setListClosing,
             [this](WParam, LParam kind) {
                 if (kind == setListKind) closeSetList();
@@ -131,14 +131,15 @@ void CMacroManagerDlg::closeSetList() {
     popups().close(PopupPlace::MacroSetList);
 }
 
-void CMacroManagerDlg::onSetListChosen(int code) {
+/// The code comes from any sender, and may be any number.
+void CMacroManagerDlg::onSetListChosen(LParam code) {
     closeSetList();
     if (code == addSetCode)
         post(manager::runAddSet);
     else if (code == deleteSetCode)
         post(manager::runDeleteSet);
-    else if (GetMacroSet(m_library, code - firstSetCode))
-        chooseMacroSet(code - firstSetCode);
+    else if (code >= firstSetCode && code < firstSetCode + std::ssize(m_library.sets))
+        chooseMacroSet(static_cast<int>(code) - firstSetCode);
 }
 
 /// Outside the library: shows that there is no set.

@@ -43,7 +43,7 @@ class CMacroManagerDlg : public CFormDlg {
     void save();
     void openSetList();
     void closeSetList();
-    void onSetListChosen(int code);
+    void onSetListChosen(LParam code);
     void chooseMacroSet(int index);
     void addMacroSetByName(const std::string& name);
     void deleteMacroSetByName(const std::string& name);

@@ -93,7 +93,6 @@ TEST_F(GKeyPage, TheMenusOwnFunctionsNeedNoList) {
         openMenu(id::gKeyField4);
         bench.choose(PopupPlace::Category, defaultRow);
         EXPECT_EQ(slot(3), (GKeySlot{"CTRL+4", "", {6, 1, 0x21}}));
-        EXPECT_EQ(bench.field(id::gKeyField4).valueText(), "CTRL+4");
     });
 }
 
@@ -103,10 +102,8 @@ TEST_F(GKeyPage, TheMenuLivesAsLongAsItOrAListBesideItIsActive) {
         bench.point(PopupPlace::Category, multimediaRow);
         bench.point(PopupPlace::Category, webRow);
         EXPECT_FALSE(bench.isOpen(PopupPlace::Multimedia));
-        EXPECT_TRUE(bench.isOpen(PopupPlace::Web));
         bench.point(PopupPlace::Category, defaultRow);
         EXPECT_FALSE(bench.isOpen(PopupPlace::Web));
-        EXPECT_TRUE(bench.isOpen(PopupPlace::Category));
         bench.point(PopupPlace::Category, mouseRow);
         settle();
         // A press on the category leaves everything open, one elsewhere closes it all.
@@ -121,32 +118,26 @@ TEST_F(GKeyPage, TheMenuLivesAsLongAsItOrAListBesideItIsActive) {
 
 TEST_F(GKeyPage, DialogsAnswerForTheFieldThatOpenedThem) {
     run([&] {
-        const std::string path = "/usr/bin/editor";
         const SelectionRecord shortcut{"Ctrl+Shift+A", {6, 3, 4}};
         sendSelection(*bench.window, msg::shortcutChosen, 0, shortcut);
         EXPECT_EQ(slot(1).Name, "CTRL+2") << "no field is waiting yet";
-
-        const struct {
-            Message wanted;
-            Size dialog;
-            Point cancel;
-        } dialogs[] = {{msg::shortcutWanted, dialog::shortcut::size, {150, 176}},
-                       {msg::launchWanted, dialog::launch::size, {180, 212}}};
-        for (const auto& each : dialogs) {
+        const std::tuple<Message, Size, Point> dialogs[] = {
+            {msg::shortcutWanted, dialog::shortcut::size, {150, 176}},
+            {msg::launchWanted, dialog::launch::size, {180, 212}}};
+        for (const auto& [wanted, size, cancel] : dialogs) {
             openMenu(id::gKeyField2);
-            bench.window->send(each.wanted, id::gKeyField2);
+            bench.window->send(wanted, id::gKeyField2);
             expectClosed(id::gKeyField2);
-            EXPECT_TRUE(bench.answered(settle, bench.clicksIn(each.dialog, {each.cancel})));
+            EXPECT_TRUE(bench.answered(settle, bench.clicksIn(size, {cancel})));
         }
         sendSelection(*bench.window, msg::shortcutChosen, 0, shortcut);
         EXPECT_EQ(slot(1), (GKeySlot{"Ctrl+Shift+A", "", {6, 3, 4}}));
-        {
-            const Sent<std::string> sent(path);
-            sendSelection(*bench.window, msg::launchChosen, sent.word(), {"editor", {7, 0, 0}});
-        }
-        EXPECT_EQ(slot(1), (GKeySlot{"editor", path, {7, 0, 0}}));
+
+        const std::string path = "/usr/bin/editor";
+        const Sent<std::string> sent(path);
+        sendSelection(*bench.window, msg::launchChosen, sent.word(), {"editor", {7, 0, 0}});
         sendSelection(*bench.window, msg::launchChosen, 0, {"none", {7, 0, 0}});
-        EXPECT_EQ(slot(1).Name, "editor");
+        EXPECT_EQ(slot(1), (GKeySlot{"editor", path, {7, 0, 0}}));
     });
 }
 

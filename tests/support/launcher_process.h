@@ -53,7 +53,6 @@ class LauncherProcess {
     void command(const std::string& line) {
         EXPECT_GT(::write(m_input.get(), (line + '\n').c_str(), line.size() + 1), 0);
     }
-    void closeInput() { m_input = {}; }
     void signal(int number) { ::kill(m_pid, number); }
 
     /// What came since the last call, up to and with the text; the whole rest when the pipe ends first.

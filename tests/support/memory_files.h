@@ -18,7 +18,6 @@ class MemoryFiles : public Files {
     /// the end.
     std::vector<std::string> log;
     int failWriteNumber = 0; ///< this write (from 1, counted from the start) fails; 0: none
-    bool failAllWrites = false;
     bool failSetAside = false;
 
     std::optional<std::string> read(const std::string& path) override {
@@ -30,7 +29,7 @@ class MemoryFiles : public Files {
 
     bool replace(const std::string& path, std::string_view text) override {
         ++m_writes;
-        const bool done = !path.empty() && !failAllWrites && m_writes != failWriteNumber;
+        const bool done = !path.empty() && m_writes != failWriteNumber;
         note("replace", path, done);
         if (done) contents[path] = std::string(text);
         return done;

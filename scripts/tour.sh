@@ -67,7 +67,7 @@ eventually no_window CLightModePopup
 shot light-chosen
 
 echo "Apply:"
-click CPelmoraDlg 716 135
+apply
 eventually grep -q 'set 05' "$keyboard_log"
 sleep 0.6
 reports
@@ -83,6 +83,16 @@ sleep 0.5
 shot windows-key-locked
 keyboard profile 1
 sleep 0.5
+reports
+
+echo "The keyboard is unplugged, and comes back:"
+keyboard unplug
+eventually window CAttentionDlg
+shot unplugged
+click CAttentionDlg 198 208
+eventually no_window CAttentionDlg
+keyboard plug
+sleep 1
 reports
 
 echo "The program ends and starts again:"

@@ -20,7 +20,6 @@ namespace {
 
 using namespace dialog;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 /// Notes what the dialogs send their owner.
 class Owner : public CDlgBase {

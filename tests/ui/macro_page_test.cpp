@@ -8,9 +8,7 @@ namespace tarnix {
 namespace {
 
 using tarnix::testing::runUntil;
-using tarnix::testing::settle;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class MacroPage : public ::testing::Test {
   public:

@@ -21,19 +21,17 @@ std::string describe(const WireRecord& record) {
     return text;
 }
 
-/// Tells whether it is active, and that keys reach it.
+/// Tells that keys reach it.
 class ObservedWindow : public CPelmoraDlg {
   public:
-    ObservedWindow(const MainWindowSurroundings& surroundings, bool& active, bool& hearsKeys)
-        : CPelmoraDlg(surroundings), m_active(active), m_hearsKeys(hearsKeys) {}
-    void OnActivate(bool active) override { m_active = active; }
+    ObservedWindow(const MainWindowSurroundings& surroundings, bool& hearsKeys)
+        : CPelmoraDlg(surroundings), m_hearsKeys(hearsKeys) {}
     bool OnKey(const KeyPress& key) override {
         m_hearsKeys = true;
         return CPelmoraDlg::OnKey(key);
     }
 
   private:
-    bool& m_active;
     bool& m_hearsKeys;
 };
 
@@ -48,7 +46,7 @@ MainWindowBench::MainWindowBench() {
         if (record.direction != WireDirection::Event) files.log.push_back(describe(record));
     };
     window = std::make_unique<ObservedWindow>(
-        MainWindowSurroundings{store, macros, files, clock, hid, loop(), shell, presence, "/kbd/"}, active,
+        MainWindowSurroundings{store, macros, files, clock, hid, loop(), shell, presence, "/kbd/"},
         m_hearsKeys);
 }
 

@@ -39,13 +39,10 @@ class NotingPresence : public DesktopPresence {
   public:
     explicit NotingPresence(Journal& journal) : m_journal(journal) {}
 
-    bool trayShown = true;
-    std::vector<WParam> events;
-
     void AddTrayIcon(Window&) override { m_journal.push_back("tray added"); }
     void RemoveTrayIcon() override { m_journal.push_back("tray removed"); }
-    bool isTrayShown() const override { return trayShown; }
-    void OnDeviceEvent(WParam code) override { events.push_back(code); }
+    bool isTrayShown() const override { return true; }
+    void OnDeviceEvent(WParam) override {}
     void OnTimer(unsigned) override {}
 
   private:
@@ -69,7 +66,6 @@ class MainWindowBench {
     PreparedShell shell;
     NotingPresence presence{files.log};
     std::unique_ptr<CPelmoraDlg> window;
-    bool active = false; ///< the window, among the program's
 
     /// Runs the window, and the scenario in it once the window is active and the journal empty; then ends the
     /// window.

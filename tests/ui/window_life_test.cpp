@@ -8,11 +8,7 @@
 namespace tarnix {
 namespace {
 
-using tarnix::testing::runUntil;
-using tarnix::testing::settle;
-using tarnix::testing::tapKey;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 constexpr const char* farewell = "set 05 03 07";
 

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <cstdlib>
 #include <utility>
 
 #include "activation.h"
@@ -19,6 +20,8 @@ namespace tarnix {
 namespace {
 
 QPointer<WindowWidget> g_lastPressed;
+
+constexpr int wheelNotch = 120;
 
 bool g_painted = false; ///< whether any window has painted itself
 std::vector<QPointer<QTimer>> g_afterPaint;
@@ -236,10 +239,15 @@ void WindowWidget::leaveEvent(QEvent*) {
 }
 
 void WindowWidget::wheelEvent(QWheelEvent* event) {
-    if (event->angleDelta().y() == 0) return;
-    call([event](Window& window) {
-        window.OnMouseWheel(event->angleDelta().y(), fromQt(event->position().toPoint()));
-    });
+    const int delta = event->angleDelta().y();
+    if (delta == 0) return;
+    const int notch = delta > 0 ? wheelNotch : -wheelNotch;
+    if (m_turned * notch < 0) m_turned = 0;
+    for (m_turned += delta; std::abs(m_turned) >= wheelNotch; m_turned -= notch) {
+        call([event, notch](Window& window) {
+            window.OnMouseWheel(notch, fromQt(event->position().toPoint()));
+        });
+    }
 }
 
 void WindowWidget::keyPressEvent(QKeyEvent* event) {

@@ -81,6 +81,7 @@ class WindowWidget : public QWidget {
     QRegion m_invalid;
     std::map<unsigned, std::unique_ptr<QTimer>> m_timers;
     std::vector<QPointer<QWidget>> m_discarded;
+    int m_turned = 0;   ///< what the wheel has turned towards its next notch; touchpads turn it finely
     int m_handlers = 0; ///< how many of the window's handlers are running
     bool m_beingDestroyed = false;
     bool m_closeAsked = false; ///< while a handler was running

@@ -82,6 +82,8 @@ class Window {
     void centre();
     /// The part of the screen that holds no panels (of the screen with the window, else the first).
     static Rect workArea();
+    /// The same of the screen that holds the point, if one does.
+    static Rect workAreaAt(Point screen);
 
     // Look.
     void setIcon(const Image& icon);
@@ -136,8 +138,10 @@ class Window {
 
     // Modal run.
     /// Shows the window, lets the user work in it (and in windows that it owns) alone, and destroys it. The
-    /// answer is the one of endModal.
+    /// answer is the one of endModal; IDCANCEL when the window was destroyed otherwise. Runs nest.
     int runModal();
+    /// From any handler. Runs inside this one, file dialogs and message boxes too, are cancelled first, the
+    /// innermost first. Before the run it keeps the run from showing the window.
     void endModal(int result);
 
     /// The layer's own side of the window; see platform/qt.
@@ -152,7 +156,7 @@ class Window {
     /// At (-1, -1) when a modal window has taken the release away.
     virtual void OnLButtonUp(unsigned flags, Point at);
     virtual void OnLButtonDblClk(unsigned flags, Point at);
-    virtual void OnMouseWheel(int delta, Point at); ///< 120 a notch, positive away from the user
+    virtual void OnMouseWheel(int delta, Point at); ///< one notch: 120, away from the user, or -120
     virtual void OnMouseLeave();
     virtual void OnMouseHover();
     /// A key for this window or a field in it. True swallows it. Escape that is not swallowed cancels the

@@ -45,7 +45,7 @@ bool CWndPopup::Create(Window& owner, const Rect& screenRect, Message notify, un
     const Size size{std::max(rows.width, 1), std::clamp(rows.height, 1, greatestHeight)};
     const Rect place = Rect::at(screenRect.left, screenRect.top, size.width, size.height);
     const WindowTraits traits{.kind = WindowKind::Popup, .owner = &owner, .role = m_role};
-    if (!createWindow(traits, shiftedInto(workArea(), place))) return true;
+    if (!createWindow(traits, shiftedInto(workAreaAt({place.left, place.top}), place))) return true;
     show();
     return false;
 }

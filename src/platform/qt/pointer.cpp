@@ -1,7 +1,6 @@
 #include "pointer.h"
 
 #include <QCursor>
-#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QWindow>

@@ -140,6 +140,11 @@ Rect Window::workArea() {
     return fromQt(screenOfMainWindow().availableGeometry());
 }
 
+Rect Window::workAreaAt(Point screen) {
+    const QScreen* holder = QGuiApplication::screenAt(toQt(screen));
+    return holder ? fromQt(holder->availableGeometry()) : workArea();
+}
+
 void Window::setIcon(const Image& icon) {
     if (exists()) m_native->widget->setWindowIcon(iconOf(icon));
 }
@@ -205,7 +210,13 @@ void Window::bringToFront() {
     m_native->widget->showNormal();
     m_native->widget->raise();
     m_native->widget->activateWindow();
-    Activation::instance().activate(this);
+    // A modal window that opened while this one was away still comes first.
+    Window* front = isShutOut(*this) ? modalWindow() : this;
+    if (front != this) {
+        front->native()->widget->raise();
+        front->native()->widget->activateWindow();
+    }
+    Activation::instance().activate(front);
 }
 
 void Window::raise() {

@@ -27,7 +27,7 @@ for program in Xvfb openbox dbus-daemon xrdb; do
     command -v $program >/dev/null || { echo "with_display.sh: $program is not installed" >&2; exit 2; }
 done
 
-folder=$(mktemp -d "${TMPDIR:-/tmp}/tarnix-display.XXXXXX") || exit 2
+folder=$(mktemp -d -t tarnix-display.XXXXXX) || exit 2
 server= manager= bus= command=
 
 finish() {

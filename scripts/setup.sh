@@ -4,7 +4,8 @@ set -euo pipefail
 
 packages=(
     # building
-    g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libhidapi-dev libudev-dev libxcb1-dev libxcb-xinput-dev
+    g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libhidapi-dev libudev-dev libxcb1-dev libxcb-shape0-dev
+    libxcb-xinput-dev xdg-utils
     # the look: a Latin and a Chinese font
     fonts-inter fonts-dejavu-core fonts-wqy-microhei
     # the virtual keyboard

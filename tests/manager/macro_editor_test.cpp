@@ -159,13 +159,15 @@ TEST(MacroEditor, ANoticeThatOpensInAPressTakesItsReleaseAndTheNextClickWorks) {
             UiScenario::keys("Escape");
             EXPECT_TRUE(UiScenario::windowShown("EditorWindow", {400, 160}));
         };
-        EXPECT_EQ(nameMacro(ui, page, "Fire", [] {}), "Fire");
-        clickAndDismiss({50, 50});
-        EXPECT_TRUE(ui.until([&] { return page.editor.isNaming(); })) << "the list keeps its field";
+        nameMacro(ui, page, "Fire", [] {});
         clickAndDismiss({5, 125});
         EXPECT_TRUE(ui.until([&] { return !page.editor.isNaming(); })) << "the button was not clicked";
         EXPECT_TRUE(UiScenario::clickWindow("EditorWindow", {35, 135}));
         EXPECT_TRUE(ui.until([&] { return page.editor.isNaming(); }));
+        nameMacro(ui, page, "Fire", [] {});
+        clickAndDismiss({50, 50});
+        EXPECT_TRUE(UiScenario::clickWindow("EditorWindow", {70, 130}));
+        EXPECT_TRUE(ui.until([&] { return page.library.sets[0].keys.empty(); })) << "deleted";
     });
 }
 

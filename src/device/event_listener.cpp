@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <atomic>
+#include <deque>
+#include <mutex>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -16,11 +19,16 @@ constexpr std::size_t maxReportLength = 4096;
 /// heard.
 constexpr int maxWaiting = 4096;
 
+/// Reports that are heard in one turn of the loop; more would hold up input and painting.
+constexpr int maxInOneTurn = 64;
+
 } // namespace
 
-/// What one listener thread shares with the user-interface thread.
+/// What one listener thread shares with the user-interface thread: the reports in their order.
 struct EventListener::Mailbox {
-    std::atomic<int> waiting{0};
+    std::mutex mutex;
+    std::deque<std::vector<std::uint8_t>> reports;
+    std::atomic<int> waiting{0}; ///< their number
     std::atomic<bool> stopping{false};
     bool startAgain = false; ///< user-interface thread only
     HidInterface next;       ///< the same; what to open then
@@ -29,6 +37,22 @@ struct EventListener::Mailbox {
         for (int count = waiting.load(); count >= maxWaiting && !stopping.load(); count = waiting.load()) {
             waiting.wait(count);
         }
+    }
+
+    void put(const std::vector<std::uint8_t>& report) {
+        const std::lock_guard lock(mutex);
+        reports.push_back(report);
+        waiting.fetch_add(1);
+    }
+
+    /// None when there is none.
+    std::optional<std::vector<std::uint8_t>> take() {
+        const std::lock_guard lock(mutex);
+        if (reports.empty()) return std::nullopt;
+        std::vector<std::uint8_t> first = std::move(reports.front());
+        reports.pop_front();
+        removeOne();
+        return first;
     }
 
     void removeOne() {
@@ -77,16 +101,23 @@ void EventListener::run(const HidInterface& interface) {
         while (device->read(report) == HidDevice::ReadResult::Report) {
             mailbox->waitForRoom();
             if (mailbox->stopping.load()) return;
-            mailbox->waiting.fetch_add(1);
-            loop.post([mailbox, self, report] {
-                mailbox->removeOne();
-                if (EventListener* listener = *self) listener->m_handler(report);
-            });
+            mailbox->put(report);
+            loop.post([mailbox, self] { deliver(*mailbox, *self); });
         }
         loop.post([mailbox, self] {
             if (EventListener* listener = *self) listener->onEnded(mailbox);
         });
     });
+}
+
+/// Each report is announced by itself, but those that have come meanwhile are heard in the same turn, so that
+/// the windows are painted once for all of them. `self` is none once the listener is closed.
+void EventListener::deliver(Mailbox& mailbox, EventListener* const& self) {
+    for (int n = 0; n < maxInOneTurn && self; ++n) {
+        const auto report = mailbox.take();
+        if (!report) return;
+        self->m_handler(*report);
+    }
 }
 
 void EventListener::onEnded(const std::shared_ptr<Mailbox>& mailbox) {

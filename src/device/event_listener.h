@@ -38,6 +38,7 @@ class EventListener {
     struct Mailbox;
 
     void run(const HidInterface& interface);
+    static void deliver(Mailbox& mailbox, EventListener* const& self);
     void onEnded(const std::shared_ptr<Mailbox>& mailbox);
 
     Hid& m_hid;

@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <filesystem>
 #include <thread>
 
 #include "device_bench.h"
@@ -10,10 +9,6 @@ namespace {
 
 using testing::ElementsAre;
 using Bytes = std::vector<std::uint8_t>;
-
-std::ptrdiff_t threadCount() {
-    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
-}
 
 class EventListenerTest : public testing::Test {
   protected:
@@ -60,6 +55,7 @@ TEST_F(EventListenerTest, AFloodIsReadNoFasterThanItIsHeardAndArrivesWholeAndInO
     for (int i = 0; i < 6000; ++i)
         ASSERT_EQ(heard[i].at(1) << 8 | heard[i].at(2), i);
 
+    loop.runPosted(); // several are heard in one turn, whose own turns find nothing
     emit(6000);
     ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 4096; }));
     listener->stop();
@@ -77,39 +73,6 @@ TEST_F(EventListenerTest, ReportsAreReadIntoTheirLengthAndSenselessLengthsAreSur
         listener->stop();
     }
     EXPECT_THAT(heard[0], ElementsAre(0, 3, 1, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0xFF)) << "left out, left alone";
-}
-
-TEST_F(EventListenerTest, StopEndsTheWaitAndTheOwnersEndDropsWhatIsPosted) {
-    const auto threads = threadCount();
-    listener->start(eventInterface());
-    listener->stop();
-    EXPECT_EQ(hid.openDevices(), 0);
-    EXPECT_TRUE(comesTrue([&] { return threadCount() == threads; }));
-    loop.runPosted();
-    listener->start(eventInterface());
-    emit(3);
-    ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 3; }));
-    listener.reset();
-    loop.runPosted();
-    EXPECT_THAT(heard, testing::IsEmpty());
-}
-
-TEST_F(EventListenerTest, ADeadDeviceEndsTheThreadAndAStartMeanwhileTakesOver) {
-    listener->start(eventInterface());
-    hid.unplug();
-    ASSERT_TRUE(loop.runUntil([this] { return hid.openDevices() == 0; }));
-    hid.plugIn();
-    listener->start(eventInterface());
-    hid.unplug();
-    hid.plugIn();
-    listener->start(eventInterface());
-    listener->start(eventInterface());
-    ASSERT_TRUE(loop.runUntil([this] { return hid.openCount() == 3; }));
-    keyboard.emit(7, 7);
-    ASSERT_TRUE(loop.runUntil([this] { return !heard.empty(); }));
-    loop.runPosted();
-    EXPECT_EQ(heard.size(), 1u);
-    EXPECT_EQ(hid.openDevices(), 1);
 }
 
 } // namespace

@@ -10,7 +10,6 @@
 #include <fstream>
 #include <thread>
 
-#include "platform/linux/program_folder.h"
 #include "support/temp_folder.h"
 
 namespace tarnix {
@@ -83,21 +82,6 @@ TEST_F(LaunchTest, DoesNothingWithAnythingElse) {
           std::string("mailto:a@example.org")})
         EXPECT_THAT(opened(target), IsEmpty()) << target;
     EXPECT_FALSE(fs::exists(folder / "mark"));
-}
-
-TEST_F(LaunchTest, ProgramFolderIsTheExecutablesOwnUnlessThatIsAnInstallations) {
-    const std::string home = (folder / "home" / ".config").string();
-    fs::create_directories(folder / "archive");
-    fs::create_directories(folder / "prefix" / "bin");
-    const auto chosen = [&](const fs::path& executable) {
-        return programFolderOf(executable.string(), home);
-    };
-    EXPECT_EQ(chosen(folder / "archive" / "program"), (folder / "archive").string() + "/");
-    EXPECT_FALSE(fs::exists(home)) << "not made before it is needed";
-    EXPECT_EQ(chosen(folder / "prefix" / "bin" / "program"), home + "/tarnix-keyboard/");
-    EXPECT_TRUE(fs::is_directory(home + "/tarnix-keyboard"));
-    EXPECT_EQ(chosen(folder / "gone" / "program"), home + "/tarnix-keyboard/");
-    EXPECT_EQ(chosen(""), home + "/tarnix-keyboard/");
 }
 
 } // namespace

@@ -21,39 +21,6 @@ Bytes collection(std::uint8_t usagePage, const Bytes& content) {
     return Bytes{0x05, usagePage, 0x09, 0x01, 0xA1, 0x01} + content + Bytes{0xC0};
 }
 
-TEST(ReportDescriptor, GivesPageLengthAndIdsOfEachTopLevelCollection) {
-    const Bytes inner = Bytes{0xA1, 0x00} + input(8, 7) + Bytes{0xC0};
-    const ReportDescriptor plain = parseReportDescriptor(collection(0x0A, inner + Bytes{0x05, 0x0B}));
-    ASSERT_EQ(plain.collections.size(), 1u);
-    EXPECT_FALSE(plain.usesReportIds);
-    EXPECT_EQ(plain.collections[0].usagePage, 0x0A);
-    EXPECT_EQ(plain.collections[0].inputReportLength, 8u);
-    EXPECT_EQ(plain.collections[0].inputReports, std::bitset<256>(1));
-
-    const Bytes several =
-        collection(0x0A, Bytes{0x85, 0x02} + input(1, 3) + input(1, 6) + Bytes{0x85, 0x03} + input(8, 4)) +
-        collection(0x0B, Bytes{0x85, 0x05, 0x75, 0x08, 0x95, 0xBF, 0xB1, 0x02});
-    const ReportDescriptor numbered = parseReportDescriptor(several);
-    ASSERT_EQ(numbered.collections.size(), 2u);
-    EXPECT_TRUE(numbered.usesReportIds);
-    EXPECT_EQ(numbered.collections[0].inputReportLength, 5u);
-    EXPECT_EQ(numbered.collections[0].inputReports, std::bitset<256>(0b1100));
-    EXPECT_EQ(numbered.collections[1].inputReportLength, 0u) << "feature reports are no input";
-}
-
-TEST(ReportDescriptor, FollowsExtendedUsagesLongItemsAndSavedGlobals) {
-    // The page of the extended usage holds, not the global one; the long item's content is no item.
-    const Bytes extended =
-        Bytes{0x05, 0x01, 0x0B, 0x02, 0x00, 0x0A, 0xFF, 0xFE, 0x02, 0x10, 0xA1, 0x01, 0xA1, 0x01} +
-        input(8, 2) +
-        // Pushed and popped: three more bytes in between, then two again.
-        Bytes{0xA4, 0x95, 0x03, 0x81, 0x02, 0xB4, 0x81, 0x02, 0xC0};
-    const ReportDescriptor result = parseReportDescriptor(extended);
-    ASSERT_EQ(result.collections.size(), 1u);
-    EXPECT_EQ(result.collections[0].usagePage, 0xFF0A);
-    EXPECT_EQ(result.collections[0].inputReportLength, 2u + 3u + 2u + 1u);
-}
-
 TEST(ReportDescriptor, KeepsWhatAnyPieceOfADescriptorSaysAndReadsNoFurther) {
     const Bytes whole = collection(0x0A, Bytes{0x85, 0x02} + input(8, 7) + Bytes{0xA4, 0xB4}) +
                         collection(0x0B, {0x27, 0xFF, 0xFF, 0xFF, 0x7F});

@@ -88,18 +88,6 @@ TEST_F(Activation, KeysGoToTheOwnerWhileThePopupIsOpenAndClosingItActivatesTheOw
     EXPECT_THAT(m_log, ElementsAre("popup inactive", "main active", "popup destroy"));
 }
 
-TEST_F(Activation, AnOverlayTakesNeitherActivationNorClicks) {
-    showMain(m_main);
-    RecordingWindow overlay("overlay", m_log);
-    ASSERT_TRUE(overlay.createWindow({.kind = WindowKind::Overlay, .role = "Overlay"}, mainPlace));
-    overlay.setOpacity(128);
-    overlay.show();
-    settle();
-    click({150, 180});
-    ASSERT_TRUE(logged("main up 0 50,60"));
-    EXPECT_THAT(changes(), IsEmpty());
-}
-
 /// Deletes itself with its window; asks to be closed in the handler of a press, which then goes on.
 class Passing : public RecordingWindow {
   public:
@@ -125,16 +113,6 @@ TEST_F(Activation, APopupThatIsClosedInItsHandlerVanishesAtOnceAndIsDestroyedAft
     ASSERT_TRUE(logged("popup destroy"));
     std::erase_if(m_log, [](const std::string& entry) { return entry.ends_with("active"); });
     EXPECT_THAT(m_log, ElementsAre("popup down 1 10,10", "popup goes on", "popup destroy"));
-}
-
-TEST_F(Activation, DestroyingTheOwnerDestroysItsPopupsFirst) {
-    showMain(m_main);
-    showPopup(*new Passing("first", m_log), m_main);
-    showPopup(*new Passing("second", m_log), m_main);
-    m_log.clear();
-    m_main.destroyWindow();
-    std::erase_if(m_log, [](const std::string& entry) { return entry.ends_with("active"); });
-    EXPECT_THAT(m_log, ElementsAre("second destroy", "first destroy", "main destroy"));
 }
 
 } // namespace

@@ -23,19 +23,6 @@ std::unique_ptr<Image> strip() {
                       .size = sizeof pixels});
 }
 
-TEST(Canvas, FillsWhatIsInsideAndReadsBackEveryPixel) {
-    const auto surface = makeSurface({10, 8});
-    EXPECT_EQ(surface->image().size(), (Size{10, 8}));
-    EXPECT_EQ(surface->image().pixel({9, 7}), 0u) << "black at first";
-    surface->canvas().fill(Rect::at(8, 6, 100, 100), red);
-    surface->canvas().fill(Rect::at(3, 3, 0, 5), green);
-    EXPECT_EQ(surface->image().pixel({9, 7}), red);
-    EXPECT_EQ(surface->image().pixel({7, 6}), 0u);
-    EXPECT_EQ(surface->image().pixel({3, 3}), 0u);
-    EXPECT_EQ(surface->image().pixel({10, 7}), 0u) << "outside";
-    EXPECT_EQ(surface->image().pixel({-1, 0}), 0u) << "outside";
-}
-
 TEST(Canvas, DrawsPartsOfAPictureWithTheirAlphaStretchedAndWeakened) {
     const auto surface = makeSurface({20, 4});
     const auto picture = strip();
@@ -69,66 +56,6 @@ TEST(Canvas, LeavesTheKeyColourOutAndSeesLaterPaintingOfASurface) {
     target->canvas().drawKeyed(source->image(), Rect::at(0, 0, 3, 1), {1, 1}, red);
     EXPECT_EQ(target->image().pixel({1, 1}), green);
     EXPECT_EQ(target->image().pixel({3, 1}), white);
-}
-
-/// Where ink is, and how much of it.
-struct Ink {
-    Rect bounds{1000, 1000, 0, 0};
-    int pixels = 0;
-};
-
-Ink inkOf(std::string_view text, const Rect& area, TextFormat format, Size size = {300, 60}) {
-    const auto surface = makeSurface(size);
-    format.color = white;
-    surface->canvas().drawText(text, area, format);
-    Ink ink;
-    for (int y = 0; y < size.height; ++y) {
-        for (int x = 0; x < size.width; ++x) {
-            if (surface->image().pixel({x, y}) == 0) continue;
-            ++ink.pixels;
-            ink.bounds = {std::min(ink.bounds.left, x), std::min(ink.bounds.top, y),
-                          std::max(ink.bounds.right, x + 1), std::max(ink.bounds.bottom, y + 1)};
-        }
-    }
-    return ink;
-}
-
-TEST(CanvasText, StandsWhereTheFormatSaysAndNowhereElse) {
-    const Rect area = Rect::at(20, 10, 200, 40);
-    const Ink left = inkOf("Hamburg", area, {});
-    ASSERT_GT(left.pixels, 0);
-    EXPECT_LE(std::abs(left.bounds.left - area.left), 2);
-    EXPECT_LT(left.bounds.bottom, area.top + 18);
-    const Ink middle = inkOf("Hamburg", area, {.centred = true, .verticalCentred = true});
-    EXPECT_LE(std::abs(middle.bounds.left + middle.bounds.right - area.left - area.right), 3);
-    EXPECT_LE(std::abs(middle.bounds.top + middle.bounds.bottom - area.top - area.bottom), 7);
-    EXPECT_EQ(inkOf("Hamburg", {}, {}).pixels, 0);
-    EXPECT_EQ(inkOf("", area, {}).pixels, 0);
-}
-
-TEST(CanvasText, ALineThatDoesNotFitEndsBetweenCharactersOrInAnEllipsis) {
-    const std::string wide = "WWWWWWWWWWWWWWWWWWWW";
-    const int one = inkOf("W", Rect::at(0, 0, 300, 20), {.ellipsis = false}).bounds.right;
-    for (int width = 2 * one; width < 3 * one; ++width) {
-        const Ink cut = inkOf(wide, Rect::at(0, 0, width, 20), {.ellipsis = false});
-        const Ink whole = inkOf(cut.bounds.right > 2 * one + 1 ? "WWW" : "WW", Rect::at(0, 0, 300, 20), {});
-        EXPECT_NEAR(cut.pixels, whole.pixels, 6) << width;
-    }
-    const Ink dots = inkOf(wide, Rect::at(0, 0, 100, 20), {});
-    EXPECT_LE(dots.bounds.right, 100);
-    const Ink tail = inkOf("iiiiiiiiiiiiiiiiiiiiiiiiiiiii", Rect::at(0, 0, 60, 20), {});
-    EXPECT_LE(tail.bounds.right, 60);
-    EXPECT_NE(tail.pixels,
-              inkOf("iiiiiiiiiiiiiiiiiiiiiiiiiiiii", Rect::at(0, 0, 60, 20), {.ellipsis = false}).pixels);
-}
-
-TEST(CanvasText, ALineThatShrinksShowsItsEndAndStaysAsLargeAsItCan) {
-    const Rect area = Rect::at(0, 0, 200, 24);
-    const TextFormat format{.height = 24, .shrinks = true, .ellipsis = false};
-    const Ink wide = inkOf("WWWWWWWWWWWWWWi", area, format);
-    EXPECT_LE(wide.bounds.right, 200);
-    EXPECT_NE(wide.pixels, inkOf("WWWWWWWWWWWWWWW", area, format).pixels);
-    EXPECT_EQ(inkOf("WWW", area, format).pixels, inkOf("WWW", area, {.height = 24}).pixels);
 }
 
 } // namespace

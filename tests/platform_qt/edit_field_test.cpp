@@ -75,40 +75,6 @@ TEST_F(Edit, TheWindowSeesEachKeyOnceAndFirst) {
     EXPECT_EQ(changes(1), 0);
 }
 
-TEST_F(Edit, AFieldThatIsDeletedByItsOwnKeyOrOutlivesItsWindowDoesNoHarm) {
-    class Renaming : public RecordingWindow {
-      public:
-        using RecordingWindow::RecordingWindow;
-        bool OnKey(const KeyPress& key) override {
-            if (key.key == KeyPress::Key::Enter) field.reset();
-            return false;
-        }
-        void OnEditChange(unsigned id) override {
-            RecordingWindow::OnEditChange(id);
-            if (field && field->text() == "x") field.reset();
-        }
-        std::unique_ptr<EditField> field;
-    } window("renaming", m_log);
-    ASSERT_TRUE(window.createWindow({.owner = &m_window}, Rect::at(500, 500, 200, 100)));
-    window.show();
-    ASSERT_TRUE(shown(window));
-    for (const std::string last : {"Return", "x"}) {
-        window.field = std::make_unique<EditField>(window, 5, Rect::at(10, 10, 100, 20));
-        m_log.clear();
-        click({650, 590});
-        ASSERT_TRUE(logged("renaming up 0 150,90"));
-        window.field->setFocus();
-        settle();
-        tapKey(last);
-        EXPECT_TRUE(runUntil([&] { return !window.field; }));
-    }
-    window.field = std::make_unique<EditField>(window, 5, Rect::at(10, 10, 100, 20));
-    window.destroyWindow();
-    settle();
-    window.field->setText("late");
-    EXPECT_EQ(window.field->text(), "");
-}
-
 TEST_F(Edit, WhileKeysAreInterceptedNoWindowAndNoFieldActsOnThem) {
     EditField field(m_window, 1, Rect::at(20, 20, 150, 20));
     field.setFocus();

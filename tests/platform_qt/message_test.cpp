@@ -1,5 +1,3 @@
-#include <thread>
-
 #include "window_fixture.h"
 
 namespace tarnix::testing {
@@ -23,27 +21,6 @@ TEST_F(Messages, SendAnswersAtOnceAndPostsArriveInTheOrderInWhichTheyWerePostedW
     settle();
     EXPECT_THAT(m_log, ElementsAre("a message 5 2 3", "a message 1 10 -1", "b message 2 0 0", "work",
                                    "a message 3 0 0"));
-}
-
-TEST_F(Messages, EachThreadsPostsKeepTheirOrder) {
-    ASSERT_TRUE(make(m_window) && make(m_other));
-    constexpr int each = 500;
-    const auto postAll = [](Window& window) {
-        for (int i = 0; i < each; ++i)
-            window.post(1, static_cast<WParam>(i));
-    };
-    std::thread first(postAll, std::ref(m_window));
-    std::thread second(postAll, std::ref(m_other));
-    first.join();
-    second.join();
-    ASSERT_TRUE(runUntil([&] { return m_log.size() == 2 * each; }));
-    for (const std::string name : {"a", "b"}) {
-        int next = 0;
-        for (const std::string& entry : m_log) {
-            if (!entry.starts_with(name)) continue;
-            EXPECT_EQ(entry, name + " message 1 " + std::to_string(next++) + " 0");
-        }
-    }
 }
 
 TEST_F(Messages, WhatIsPostedToAWindowThatIsGoneReachesNeitherItNorItsSuccessor) {

@@ -13,7 +13,8 @@ Application* g_application = nullptr;
 
 bool isExposed() {
     const auto windows = QGuiApplication::topLevelWindows();
-    return std::any_of(windows.begin(), windows.end(), [](const QWindow* each) { return each->isExposed(); });
+    return std::any_of(windows.begin(), windows.end(),
+                       [](const QWindow* each) { return each->isVisible() && each->isExposed(); });
 }
 
 } // namespace

@@ -233,54 +233,5 @@ TEST(MacroEditor, AFullMacroEndsItsRecordingBeforeTheNotice) {
     EXPECT_EQ(page.library.sets[0].keys[0].actionCount, 100U);
 }
 
-TEST(MacroEditor, WheelAndScrollBarMoveTheListWithinItsRows) {
-    EditorWindow page(macroPageRules, {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"});
-    page.play([&] {
-        std::vector<int> rows;
-        const auto note = [&] { rows.push_back(page.editor.macros().m_nFirstRow); };
-        const auto turn = [&](int delta) {
-            page.editor.onMouseWheel(delta);
-            note();
-        };
-        const auto press = [&](unsigned part) {
-            page.send(ids.macroScrollBar, part, NOTIFY_DOWN);
-            note();
-        };
-        turn(-120); // over neither list
-        page.OnMouseMove(0, {50, 50});
-        for (const int delta : {120, -120})
-            turn(delta);
-        for (const unsigned part : {CVScrollBar::partBelow, CVScrollBar::partBelow, CVScrollBar::partDown})
-            press(part);
-        turn(-120);
-        for (const unsigned part : {CVScrollBar::partUp, CVScrollBar::partThumb, CVScrollBar::partAbove})
-            press(part);
-        page.control<CVScrollBar>(ids.macroScrollBar)->SetScrollState(3, 4, 10);
-        page.send(ids.macroScrollBar, 0, NOTIFY_DRAG);
-        note();
-        EXPECT_THAT(rows, ElementsAre(0, 0, 1, 5, 6, 6, 6, 5, 5, 1, 3)) << "ten rows, four on the screen";
-    });
-}
-
-TEST(MacroEditor, AListThatGetsShorterIsScrolledBackToItsLastRows) {
-    EditorWindow page(macroPageRules, {"a", "b", "c", "d", "e", "f"});
-    page.play([&] {
-        CEditShowList& list = page.editor.macros();
-        list.ScrollToEnd();
-        list.m_nSelected = 5;
-        clickControl(page, ids.deleteMacro);
-        EXPECT_EQ(list.m_nFirstRow, 1) << "five rows, four on the screen";
-        clickControl(page, ids.newMacro);
-        EXPECT_EQ(list.m_nFirstRow, 2) << "the field is a row, too";
-        page.OnKey({KeyPress::Key::Escape, true});
-        EXPECT_FALSE(page.editor.isNaming());
-        EXPECT_EQ(list.m_nFirstRow, 1);
-        EXPECT_EQ(page.control<CVScrollBar>(ids.macroScrollBar)->position(), 1);
-        page.library.sets[0].keys.resize(2);
-        page.editor.refresh();
-        EXPECT_EQ(list.m_nFirstRow, 0);
-    });
-}
-
 } // namespace
 } // namespace tarnix

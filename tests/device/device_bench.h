@@ -64,7 +64,6 @@ class NotingOwner : public DeviceObserver {
   public:
     explicit NotingOwner(const ProfileStore& store) : m_store(store) {}
     Words told;
-    std::function<void()> whileNoticeIsOpen = [] {};
 
     void ShowCurrentProfile() override { told.push_back("show " + m_store.GetConfig(0, PairText::Value)); }
     void onDeviceEvent(DeviceEvent event) override {
@@ -72,10 +71,7 @@ class NotingOwner : public DeviceObserver {
     }
     void launchGKeyUrl(const std::string& url) override { told.push_back("launch " + url); }
     void onMacrosChanged() override { told.push_back("macros"); }
-    void showDisconnectedNotice() override {
-        told.push_back("notice");
-        std::exchange(whileNoticeIsOpen, [] {})();
-    }
+    void showDisconnectedNotice() override { told.push_back("notice"); }
 
   private:
     const ProfileStore& m_store;

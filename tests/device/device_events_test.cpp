@@ -52,35 +52,6 @@ TEST_F(DeviceEventsTest, LightingChangesAreKeptAsTheyCameInTheActiveProfile) {
     EXPECT_THAT(bench.files.log, IsEmpty());
 }
 
-TEST_F(DeviceEventsTest, LaunchTakesTheAddressOfTheActiveProfileAndWithoutOneNothingIsDone) {
-    bench.store.SetGKeyUrl(0, 0, "/usr/bin/true");
-    bench.store.SetGKeyUrl(1, 5, "https://example.org/");
-    const auto before = records;
-    EXPECT_EQ(bench.event(0x04, 1), Words{"launch /usr/bin/true"});
-    for (const std::uint8_t value : Bytes{0, 2, 7, 255})
-        EXPECT_THAT(bench.event(0x04, value), IsEmpty());
-    bench.event(0x05, 2);
-    EXPECT_EQ(bench.event(0x04, 6), Words{"launch https://example.org/"});
-    for (const std::uint8_t active : Bytes{0, 6}) {
-        bench.event(0x05, active);
-        for (const std::uint8_t code : Bytes{1, 2, 4, 6, 7, 10})
-            EXPECT_THAT(bench.event(code, 1), IsEmpty());
-    }
-    EXPECT_EQ(records, before);
-    EXPECT_THAT(bench.requests(), IsEmpty());
-}
-
-TEST_F(DeviceEventsTest, ARecordedMacroIsNamedStoredSentBackAndSaved) {
-    bench.keyboard.recordMacro(2, Bytes{0x04, 0x00, 0x04, 0x8F}, 3);
-    EXPECT_EQ(bench.settle(), (Words{"macros", "show 0"}));
-    EXPECT_EQ(bench.requests(), (Words{"04 0.1", "08?", "08 0.1"}));
-    EXPECT_THAT(bench.pauses(), ElementsAre(8, 8, 350));
-    EXPECT_EQ(records[0].GKeys[1], (GKeySlot{"Profile1_G2", "", {1, 0, 0}}));
-    EXPECT_EQ(bench.keyboard.profiles[0].macros[1],
-              (KeyboardMacro{"Profile1_G2", 3, 2, {0x04, 0x00, 0x04, 0x8F}}));
-    EXPECT_THAT(bench.files.log, ElementsAre("replace p0", testing::HasSubstr("MacroLibraryFile.mlf")));
-}
-
 TEST_F(DeviceEventsTest, AnUploadIsAbandonedWithoutAnswerOrSlot) {
     const auto before = records;
     for (std::size_t failing = 0; failing < 3; ++failing) {

@@ -128,57 +128,5 @@ TEST(DeviceLink, HalfAKeyboardDoesWhatItCan) {
     EXPECT_THAT(bench.pauses(), ElementsAre(350));
 }
 
-TEST(DeviceLink, UnplugWarnsOnceAndReplugReadsAllAgainEvenWhileTheNoticeIsOpen) {
-    DeviceBench bench;
-    bench.startQuietly();
-    bench.store.SetLightMode(1, 9);
-    bench.link->pending().mark(PendingWrites::lightingRow, 1);
-    bench.unplug();
-    bench.unplug();
-    EXPECT_EQ(bench.told(), Words{"notice"});
-    EXPECT_EQ(bench.hid.openDevices(), 0);
-    EXPECT_TRUE(bench.link->pending().isMarked(PendingWrites::lightingRow, 1));
-    bench.replug();
-    EXPECT_EQ(bench.requests(), plainRead);
-    EXPECT_EQ(bench.store.settingNumber(1, settingLightMode), 1) << "what was not applied is lost";
-    bench.told();
-    bench.owner.whileNoticeIsOpen = [&] {
-        bench.replug();
-        bench.unplug();
-        bench.replug();
-    };
-    bench.unplug();
-    bench.unplug();
-    EXPECT_EQ(bench.told(), (Words{"notice", "show 0", "show 0", "notice"}));
-}
-
-TEST(DeviceLink, AKeyboardThatIsBackBeforeItsRemovalIsToldIsHeardAgain) {
-    DeviceBench bench;
-    bench.startQuietly();
-    const std::size_t opened = bench.hid.openCount();
-    bench.hid.unplug();
-    bench.hid.plugIn();
-    bench.hid.tell(HidChange::Removal);
-    bench.hid.tell(HidChange::Arrival);
-    // Two opens of the search, one to talk, and one to hear when the old listener has ended.
-    ASSERT_TRUE(bench.loop.runUntil([&] { return bench.hid.openCount() == opened + 4; }));
-    EXPECT_EQ(bench.event(eventReport::windowsKeyLock, 0), Words{"event 4"});
-    EXPECT_TRUE(bench.protocol().SetActiveProfile(2));
-}
-
-TEST(DeviceLink, ClosingTakesLeaveExactlyOnce) {
-    DeviceBench bench;
-    bench.startQuietly();
-    bench.link->pending().mark(PendingWrites::lightingRow, 0);
-    bench.link->close();
-    EXPECT_EQ(bench.requests(), Words{"05 7"});
-    EXPECT_THAT(bench.pauses(), ElementsAre(15, 10));
-    EXPECT_EQ(bench.hid.openDevices(), 0);
-    bench.hid.tell(HidChange::Arrival);
-    bench.link.reset();
-    bench.hid.tell(HidChange::Arrival);
-    EXPECT_THAT(bench.requests(), IsEmpty());
-}
-
 } // namespace
 } // namespace tarnix

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <thread>
 
 #include "device_bench.h"
@@ -9,6 +10,10 @@ namespace {
 
 using testing::ElementsAre;
 using Bytes = std::vector<std::uint8_t>;
+
+std::ptrdiff_t threadCount() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+}
 
 class EventListenerTest : public testing::Test {
   protected:
@@ -73,6 +78,21 @@ TEST_F(EventListenerTest, ReportsAreReadIntoTheirLengthAndSenselessLengthsAreSur
         listener->stop();
     }
     EXPECT_THAT(heard[0], ElementsAre(0, 3, 1, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0xFF)) << "left out, left alone";
+}
+
+TEST_F(EventListenerTest, StopEndsTheWaitAndTheOwnersEndDropsWhatIsPosted) {
+    const auto threads = threadCount();
+    listener->start(eventInterface());
+    listener->stop();
+    EXPECT_EQ(hid.openDevices(), 0);
+    EXPECT_TRUE(comesTrue([&] { return threadCount() == threads; }));
+    loop.runPosted();
+    listener->start(eventInterface());
+    emit(3);
+    ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 3; }));
+    listener.reset();
+    loop.runPosted();
+    EXPECT_THAT(heard, testing::IsEmpty());
 }
 
 } // namespace

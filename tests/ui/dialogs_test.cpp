@@ -7,11 +7,8 @@
 #include "skin/list_popup.h"
 #include "skin/selection.h"
 #include "support/ui_scenario.h"
-#include "ui/attention_dlg.h"
 #include "ui/dialog_layouts.h"
-#include "ui/firmware_reset_dlg.h"
 #include "ui/key_map_setting_dlg.h"
-#include "ui/notices.h"
 #include "ui/quick_launch_dlg.h"
 #include "ui/shortcut_dlg.h"
 
@@ -87,38 +84,6 @@ class Dialogs : public ::testing::Test {
     Owner owner;
     PreparedShell shell;
 };
-
-// Notices and questions.
-
-TEST_F(Dialogs, ANoticeIsOfOneSizeWhateverItSaysAndEnterOrEscapeClosesIt) {
-    const std::tuple<std::string_view, const char*, int> cases[] = {
-        {notices::importFailed, "Return", IDOK}, {notices::noMacroSet, "Escape", IDCANCEL}};
-    for (const auto& [text, key, expected] : cases) {
-        CAttentionDlg dialog{std::string(notices::title), std::string(text)};
-        const int result = playIn(dialog, [&, text = text, key = key](UiScenario& ui) {
-            EXPECT_TRUE(UiScenario::windowShown("CAttentionDlg", {496, 247}));
-            ui.run([&] { EXPECT_EQ(label(dialog, notice::message), text); });
-            UiScenario::keys(key);
-            EXPECT_TRUE(ui.untilOver());
-        });
-        EXPECT_EQ(result, expected);
-    }
-}
-
-TEST_F(Dialogs, TheResetQuestionIsAnsweredByItsButtonsAndEnterDoesNotAgree) {
-    for (const unsigned button : {okButton, cancelButton, closeButton}) {
-        CFirmwareResetDlg dialog(reset::factoryBackground, &owner);
-        const int result = playIn(dialog, [&](UiScenario& ui) {
-            EXPECT_TRUE(UiScenario::windowShown("CFirmwareResetDlg", {496, 247}));
-            UiScenario::keys("Return");
-            ui.run([&] {
-                EXPECT_TRUE(dialog.isVisible());
-                clickControl(dialog, button);
-            });
-        });
-        EXPECT_EQ(result, button == okButton ? IDOK : IDCANCEL);
-    }
-}
 
 // The key map.
 

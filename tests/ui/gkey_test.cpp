@@ -7,7 +7,6 @@
 namespace tarnix {
 namespace {
 
-using tarnix::testing::runUntil;
 using tarnix::testing::settle;
 
 /// Rows of the function menu.
@@ -93,26 +92,6 @@ TEST_F(GKeyPage, TheMenusOwnFunctionsNeedNoList) {
         openMenu(id::gKeyField4);
         bench.choose(PopupPlace::Category, defaultRow);
         EXPECT_EQ(slot(3), (GKeySlot{"CTRL+4", "", {6, 1, 0x21}}));
-    });
-}
-
-TEST_F(GKeyPage, TheMenuLivesAsLongAsItOrAListBesideItIsActive) {
-    run([&] {
-        openMenu(id::gKeyField1);
-        bench.point(PopupPlace::Category, multimediaRow);
-        bench.point(PopupPlace::Category, webRow);
-        EXPECT_FALSE(bench.isOpen(PopupPlace::Multimedia));
-        bench.point(PopupPlace::Category, defaultRow);
-        EXPECT_FALSE(bench.isOpen(PopupPlace::Web));
-        bench.point(PopupPlace::Category, mouseRow);
-        settle();
-        // A press on the category leaves everything open, one elsewhere closes it all.
-        bench.choose(PopupPlace::Category, mouseRow);
-        EXPECT_TRUE(bench.isOpen(PopupPlace::Mouse));
-        const Rect window = bench.window->screenRect();
-        testing::click({window.left + 600, window.top + 480});
-        EXPECT_TRUE(runUntil([&] { return !bench.window->popups().any(); }));
-        expectClosed(id::gKeyField1);
     });
 }
 

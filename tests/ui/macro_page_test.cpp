@@ -2,7 +2,6 @@
 
 #include "main_window_bench.h"
 #include "platform/edit_field.h"
-#include "ui/notices.h"
 
 namespace tarnix {
 namespace {

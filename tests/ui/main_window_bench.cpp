@@ -123,10 +123,4 @@ void MainWindowBench::choose(PopupPlace place, std::size_t row) {
     testing::settle();
 }
 
-std::unique_ptr<Surface> MainWindowBench::face() {
-    auto surface = makeSurface(mainWindowSize);
-    window->OnPaint(surface->canvas(), Rect::at(0, 0, mainWindowSize.width, mainWindowSize.height));
-    return surface;
-}
-
 } // namespace tarnix

@@ -91,8 +91,6 @@ class MainWindowBench {
     void choose(PopupPlace place, std::size_t row);
     const CComboButton& field(unsigned id) const { return *window->control<CComboButton>(id); }
     const CKeyboardButton& cap(unsigned id) const { return *window->control<CKeyboardButton>(id); }
-    /// The window's face as it is painted now.
-    std::unique_ptr<Surface> face();
 
     static std::string file(const std::string& name) { return "/kbd/config\\" + name; }
 

@@ -32,33 +32,6 @@ Journal headers(const Journal& lines) {
     return all;
 }
 
-const std::initializer_list<const char*> allFiles{"config.ini",   "default0.psf", "default1.psf",
-                                                  "default2.psf", "default3.psf", "default4.psf"};
-
-TEST(ProfileCommands, ApplySendsLightingThenKeyCodesThenTheProfileAndThenWritesTheFiles) {
-    MainWindowBench bench;
-    bench.run([&] {
-        bench.window->send(msg::keyCodeChosen, 2201, 62);
-        bench.window->send(msg::openSpeed, id::speedField, NOTIFY_CLICK);
-        bench.choose(PopupPlace::LightSpeed, 0);
-        bench.click(id::profileTab3);
-        bench.window->send(msg::keyCodeChosen, 2259, 5);
-        EXPECT_THAT(bench.changes(), IsEmpty());
-
-        bench.click(id::applyButton);
-        EXPECT_THAT(headers(bench.changes()),
-                    ::testing::ContainerEq(
-                        Journal{"set 07 08 00 00", "set 06 B8 00 00", "set 06 B8 02 00", "set 05 03 02"} +
-                        written(bench, allFiles)));
-        EXPECT_EQ(bench.keyboard.profiles[0].keyCodes[17], 0xC4);
-        EXPECT_EQ(bench.keyboard.activeProfile, 2);
-
-        bench.window->link().pending().m_bMacroLibraryChanged = true;
-        bench.click(id::okButton);
-        EXPECT_EQ(bench.changes().back(), "replace " + bench.file("MacroLibraryFile.mlf"));
-    });
-}
-
 TEST(ProfileCommands, ResetWritesOneProfileAtOnceAndKeepsTheSixthMacroPending) {
     MainWindowBench bench;
     bench.run([&] {

@@ -97,6 +97,30 @@ void announce(UMockdevTestbed* testbed, const std::string& sysPath, const char* 
     umockdev_testbed_uevent(testbed, sysPath.c_str(), action);
 }
 
+/// While it lives, nobody listens. The test bed itself tells of a device that is added, before that one
+/// answers, and ends this process over a listener that is full.
+class Unheard {
+  public:
+    explicit Unheard(UMockdevTestbed* testbed) : m_root(rootFolder(testbed)) { rename("event", "unheard"); }
+    ~Unheard() { rename("unheard", "event"); }
+    Unheard(const Unheard&) = delete;
+    Unheard& operator=(const Unheard&) = delete;
+
+  private:
+    void rename(const std::string& from, const std::string& to) const {
+        std::error_code error;
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(m_root, error))
+            names.push_back(entry.path().filename().string());
+        for (const std::string& name : names) {
+            if (!name.starts_with(from)) continue;
+            std::filesystem::rename(m_root / name, m_root / (to + name.substr(from.size())), error);
+        }
+    }
+
+    std::filesystem::path m_root;
+};
+
 /// A request whose answer takes its time. Ends with an error when the device is unplugged first.
 class DelayedAnswer {
   public:
@@ -131,7 +155,10 @@ class MockPlug final : public BusPlug {
           m_place(interface, number),
           m_handler(umockdev_ioctl_base_new()) {
         const std::string text = deviceText(m_place, interface, number);
-        if (!umockdev_testbed_add_from_string(testbed, text.c_str(), nullptr)) return;
+        {
+            const Unheard unheard(testbed);
+            if (!umockdev_testbed_add_from_string(testbed, text.c_str(), nullptr)) return;
+        }
         m_terminal = FileDescriptor(umockdev_testbed_get_dev_fd(testbed, m_place.device.c_str()));
         // Inherited by the program, it would keep its own node alive after an unplug.
         ::fcntl(m_terminal.get(), F_SETFD, FD_CLOEXEC);

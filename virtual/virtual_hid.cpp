@@ -114,7 +114,6 @@ std::unique_ptr<HidDevice> VirtualHid::open(const std::string& path) {
     const auto node = std::make_shared<Node>(path == pathOf(VirtualKeyboard::eventInterface));
     std::erase_if(m_nodes, [](const auto& each) { return each.expired(); });
     m_nodes.push_back(node);
-    ++m_opened;
     return std::make_unique<Device>(node, features ? &m_keyboard : nullptr);
 }
 

@@ -49,7 +49,6 @@ class VirtualHid : public Hid {
     }
 
     int openDevices() const;
-    std::size_t openCount() const { return m_opened; } ///< successful opens so far
 
   private:
     class Node;
@@ -60,7 +59,6 @@ class VirtualHid : public Hid {
     VirtualKeyboard& m_keyboard;
     std::function<void(HidChange)> m_onChange;
     std::vector<std::weak_ptr<Node>> m_nodes;
-    std::size_t m_opened = 0;
 };
 
 } // namespace tarnix

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building, running and testing need; does nothing where they are all there.
+# Installs the Debian packages that building, running and testing need, and those that it is given; does nothing where
+# they are all there.
 set -euo pipefail
 
 packages=(
@@ -16,6 +17,8 @@ packages=(
     # checks of what is installed
     udev desktop-file-utils appstream man-db groff-base bsdextrautils
 )
+
+packages+=("$@")
 
 missing=()
 for package in "${packages[@]}"; do

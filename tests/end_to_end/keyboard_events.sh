@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # What the user does on the keyboard: the on-screen display, programs on G-keys, recorded macros.
 source "$(dirname "$0")/scenario.sh"
+cd "$desktop"
 
 start
 end_program
@@ -50,4 +51,4 @@ printf '[MacroLibrary]\nMacroSetNum=1\n\tMacroSet0Name=Keyboard Macro Set\n\t\tM
 printf '\t\t\tMacroCommandActionNum=2\n\t\t\tAllAction=410000000300002841800000%01576u\n' 0 >> "$desktop/library"
 eventually diff "$desktop/library" "$config/MacroLibraryFile.mlf"
 end_program
-[ "$(wc -l < "$desktop/marks")" = 2 ] && [ ! -e evil ] && [ ! -e "$program/evil" ] || fail "something else was started"
+[ "$(wc -l < marks)" = 2 ] && [ ! -e evil ] && [ ! -e "$program/evil" ] || fail "something else was started"

@@ -3,7 +3,7 @@
 set -Eeuo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/desktop.sh"
 trap 'echo "FAILED: ${BASH_SOURCE[0]}:$LINENO: $BASH_COMMAND" >&2' ERR
-failure_picture=$(basename "$0" .sh)-failed.png
+failure_picture=$PWD/$(basename "$0" .sh)-failed.png
 
 virtual_keyboard=$TARNIX_VIRTUAL_KEYBOARD
 program=$desktop/tarnix

@@ -31,6 +31,7 @@ reset config.ini 5s/=//
 reset config.ini $aseventh=pair
 kept config.ini 2s/0$/a=b/
 kept config.ini s/$/\r/
+kept config.ini 3,$d
 reset default1.psf 1s/^/\xef\xbb\xbf/
 reset default1.psf 11s/..$//
 reset default1.psf 11s/$/00/
@@ -45,10 +46,3 @@ reset MacroLibraryFile.mlf 4s/0/1/
 kept MacroLibraryFile.mlf 2s/1/0/
 kept MacroLibraryFile.mlf s/$/\r/
 END
-
-# A short configuration is taken as it is: the other slots have no file.
-sed -i '3,$d' "$config/config.ini"
-rm "$config"/*.psf
-start --unplugged
-end_program
-[ "$(cd "$config" && echo *)" = "MacroLibraryFile.mlf config.ini" ]

@@ -5,6 +5,7 @@
 #include "macro/macro_files.h"
 #include "macro_manager/manager_layout.h"
 #include "manager_bench.h"
+#include "skin/list_popup.h"
 #include "skin/selection.h"
 #include "support/memory_files.h"
 
@@ -160,6 +161,42 @@ TEST_F(MacroManager, OkWithAMacroResetsTheMainLibraryAndALongFileOpensEmpty) {
 
     EXPECT_FALSE(openAndClick({640, 438}));
     EXPECT_THAT(setNames(library), ElementsAre(std::string(defaultMacroSetName)));
+}
+
+TEST_F(MacroManager, TheListOfSetsOpensUnderItsFieldAndLeadsToTheNameDialogs) {
+    store(libraryOf("One", {}));
+    CMacroManagerDlg dialog(nullptr, files, folder, 0);
+    playIn(dialog, [&](UiScenario& ui) {
+        const auto chooseRow = [&](std::size_t row) {
+            ui.run([&] { clickControl(dialog, setField); });
+            ui.run([&] {
+                auto* popup = dynamic_cast<CListPopup*>(dialog.popups().at(PopupPlace::MacroSetList));
+                ASSERT_NE(popup, nullptr);
+                const auto* field = dialog.control<CComboButton>(setField);
+                EXPECT_TRUE(field->m_bOpen);
+                EXPECT_EQ(dialog.toClient(popup->screenRect().topLeft()),
+                          (Point{field->m_rect.left, field->m_rect.bottom}));
+                clickAt(*popup, popup->rows().at(row).rect.inset(5).topLeft());
+                EXPECT_FALSE(field->m_bOpen);
+            });
+        };
+        const auto enterName = [&](const char* role, const char* name, Point button, std::size_t setsThen) {
+            EXPECT_TRUE(UiScenario::windowShown(role, companionSize));
+            UiScenario::type(name);
+            UiScenario::keys("Return"); // which takes nothing
+            EXPECT_TRUE(ui.until([&] {
+                UiScenario::clickWindow(role, button);
+                return dialog.library().sets.size() == setsThen;
+            })) << role;
+        };
+        chooseRow(0);
+        ui.run([&] { EXPECT_EQ(dialog.selectedSet(), 1); });
+        chooseRow(2);
+        enterName("CMacroManagerAddDlg", "Two", {101, 176}, 2);
+        chooseRow(4);
+        enterName("CMacroManagerDelSetDlg", "One", {101, 176}, 1);
+        ui.run([&] { EXPECT_EQ(fieldText(dialog), "Two"); });
+    });
 }
 
 } // namespace

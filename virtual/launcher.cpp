@@ -100,6 +100,18 @@ void Launcher::unplugKeyboard() {
     m_keyboardPlugs.clear();
 }
 
+/// The nodes outlive the request that one of them brings.
+void Launcher::unplugAtRequest(std::size_t number) {
+    m_keyboard.faultAtRequest(number, [this] {
+        m_keyboard.setPluggedIn(false);
+        m_vanishing = GlibSource::every(Milliseconds(0), [this] {
+            unplugKeyboard();
+            return false;
+        });
+        return false;
+    });
+}
+
 bool Launcher::plugMouse() {
     if (m_mouse) return true;
     const BusInterface interface {

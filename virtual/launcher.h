@@ -43,6 +43,8 @@ class Launcher {
     /// False when the bus refuses.
     bool plugKeyboard();
     void unplugKeyboard();
+    /// Pulls the plug at the request that follows the given number of others, which it refuses.
+    void unplugAtRequest(std::size_t number);
     bool plugMouse();
     void unplugMouse();
     void print(const std::string& line);
@@ -63,6 +65,7 @@ class Launcher {
     std::unique_ptr<Function> m_silent;
     std::unique_ptr<Function> m_features;
     std::vector<std::unique_ptr<BusPlug>> m_keyboardPlugs; ///< one an interface; empty while unplugged
+    GlibSource m_vanishing;
     std::unique_ptr<BusPlug> m_mouse;
     std::unique_ptr<class CommandQueue> m_commands;
     std::unique_ptr<class KeyboardDay> m_day;

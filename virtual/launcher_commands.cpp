@@ -173,6 +173,12 @@ bool delay(Launcher& launcher, Words words) {
     return true;
 }
 
+bool vanish(Launcher& launcher, Words words) {
+    const auto count = number(words[0], 1000);
+    if (count) launcher.unplugAtRequest(*count);
+    return count.has_value();
+}
+
 bool plug(Launcher& launcher, Words) {
     return launcher.plugKeyboard();
 }
@@ -234,7 +240,7 @@ struct Command {
     bool (*run)(Launcher&, Words);
 };
 
-constexpr std::array<Command, 16> commands{{
+constexpr std::array<Command, 17> commands{{
     {"emit", 2, "CODE VALUE: sends any event report", emitEvent},
     {"profile", 1, "N: switches to profile 1 to 3 on the keyboard", pressProfile},
     {"light", 2, "mode|brightness|speed N, or all B4 B5 B6 B7 (hex): changes the lighting on the keyboard",
@@ -246,6 +252,7 @@ constexpr std::array<Command, 16> commands{{
     {"launch", 1, "G: presses a G-key that launches a program", launchProgram},
     {"fail", 1, "N|all|none: refuses the next N requests, all, or no more", fail},
     {"delay", 1, "MS [N]: takes its time for the next N requests", delay},
+    {"vanish", 1, "N: is unplugged at the request that follows N others", vanish},
     {"plug", 0, ": plugs the keyboard in", plug},
     {"unplug", 0, ": unplugs the keyboard", unplug},
     {"mouse", 1, "in|out: plugs another HID device in or out", mouse},

@@ -64,15 +64,20 @@ class VirtualHid::Device final : public HidDevice {
         : m_node(std::move(node)), m_keyboard(keyboard) {}
 
     bool setFeature(std::span<const std::uint8_t> report) override {
-        return m_keyboard != nullptr && !m_node->isDead() && m_keyboard->setFeature(report);
+        return reachesKeyboard() && m_keyboard->setFeature(report);
     }
     bool getFeature(std::span<std::uint8_t> report) override {
-        return m_keyboard != nullptr && !m_node->isDead() && m_keyboard->getFeature(report);
+        return reachesKeyboard() && m_keyboard->getFeature(report);
     }
     ReadResult read(std::span<std::uint8_t> report) override { return m_node->read(report); }
     void stop() override { m_node->stop(); }
 
   private:
+    /// While the keyboard is away it refuses by itself, and notes it; what comes back has nodes of its own.
+    bool reachesKeyboard() const {
+        return m_keyboard != nullptr && !(m_node->isDead() && m_keyboard->isPluggedIn());
+    }
+
     std::shared_ptr<Node> m_node;
     VirtualKeyboard* m_keyboard;
 };

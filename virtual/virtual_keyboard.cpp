@@ -95,10 +95,11 @@ std::size_t VirtualKeyboard::featureLength(std::uint8_t id) {
 /// Counts the request and lets it meet the faults that wait for it.
 bool VirtualKeyboard::admitRequest() {
     const std::size_t request = m_requests++;
-    for (const Delay& delay : m_delays) {
-        if (delay.request == request) m_clock.pause(delay.time);
+    bool passes = !m_failEvery;
+    for (const Fault& fault : m_faults) {
+        if (fault.request == request && !fault.happen()) passes = false;
     }
-    return m_pluggedIn && !m_failEvery && std::count(m_failures.begin(), m_failures.end(), request) == 0;
+    return passes && m_pluggedIn;
 }
 
 bool VirtualKeyboard::setFeature(std::span<const std::uint8_t> report) {

@@ -14,6 +14,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/clock.h"
@@ -104,10 +105,21 @@ class VirtualKeyboard {
     std::function<void(std::span<const std::uint8_t>)> onEvent;
 
     // Faults. A request is a feature set or get; requests count from 0 from now on.
-    void failRequest(std::size_t number) { m_failures.push_back(m_requests + number); }
+    /// The fault happens as the request arrives, and lets it through or refuses it. It may pull the plug.
+    void faultAtRequest(std::size_t number, std::function<bool()> fault) {
+        m_faults.push_back({m_requests + number, std::move(fault)});
+    }
+    void failRequest(std::size_t number) {
+        faultAtRequest(number, [] { return false; });
+    }
+    /// Those that were to come at a certain request.
+    void forgetFaults() { m_faults.clear(); }
     void failEveryRequest(bool fail) { m_failEvery = fail; }
     void delayRequest(std::size_t number, Milliseconds delay) {
-        m_delays.push_back({m_requests + number, delay});
+        faultAtRequest(number, [this, delay] {
+            m_clock.pause(delay);
+            return true;
+        });
     }
     std::size_t requestCount() const { return m_requests; }
     void setPluggedIn(bool pluggedIn) { m_pluggedIn = pluggedIn; }
@@ -119,9 +131,9 @@ class VirtualKeyboard {
     std::function<void(const WireRecord&)> onWire;
 
   private:
-    struct Delay {
+    struct Fault {
         std::size_t request;
-        Milliseconds time;
+        std::function<bool()> happen;
     };
 
     bool admitRequest();
@@ -138,8 +150,7 @@ class VirtualKeyboard {
     std::uint8_t m_selectedProfile = 0;
     std::uint8_t m_selectedSlot = 0;
     std::size_t m_requests = 0;
-    std::vector<std::size_t> m_failures;
-    std::vector<Delay> m_delays;
+    std::vector<Fault> m_faults;
     bool m_failEvery = false;
     bool m_pluggedIn = true;
     std::vector<WireRecord> m_log;

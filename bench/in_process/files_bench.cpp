@@ -66,7 +66,7 @@ void profileLoad(benchmark::State& state) {
 void librarySave(benchmark::State& state) {
     const MemoryFolder folder;
     const auto files = makeSystemFiles();
-    const MacroLibrary library = fullLibrary(static_cast<int>(state.range(0)));
+    MacroLibrary library = fullLibrary(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         if (!SaveMacroLibrary(library, *files, folder.path())) state.SkipWithError("cannot save");
     }
@@ -76,9 +76,9 @@ void librarySave(benchmark::State& state) {
 void libraryLoad(benchmark::State& state) {
     const MemoryFolder folder;
     const auto files = makeSystemFiles();
-    SaveMacroLibrary(fullLibrary(static_cast<int>(state.range(0))), *files, folder.path());
+    MacroLibrary library = fullLibrary(static_cast<int>(state.range(0)));
+    SaveMacroLibrary(library, *files, folder.path());
     for (auto _ : state) {
-        MacroLibrary library;
         if (!LoadMacroLibrary(library, *files, folder.path())) state.SkipWithError("cannot load");
         benchmark::DoNotOptimize(library);
     }

@@ -148,7 +148,7 @@ void DeviceLink::readMacros() {
         for (int slot = 0; slot < gKeyCount; ++slot)
             asked |= m_protocol.ReadGKeyMacro(profile, slot);
     }
-    if (asked || m_pending.m_bMacroLibraryChanged) {
+    if (asked || m_pending.m_bMacroLibraryChanged || m_storage.macros.saveFailed) {
         SaveMacroLibrary(m_storage.macros, m_storage.files, m_storage.programFolder);
     }
     m_pending.m_bMacroLibraryChanged = false;

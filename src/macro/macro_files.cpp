@@ -220,8 +220,10 @@ std::string formatMacroKey(const MacroKey& macro) {
     return text;
 }
 
-bool SaveMacroLibrary(const MacroLibrary& library, Files& files, const std::string& programFolder) {
-    return files.replace(libraryPath(programFolder), formatMacroLibrary(library, LibraryForm::Long));
+bool SaveMacroLibrary(MacroLibrary& library, Files& files, const std::string& programFolder) {
+    library.saveFailed =
+        !files.replace(libraryPath(programFolder), formatMacroLibrary(library, LibraryForm::Long));
+    return !library.saveFailed;
 }
 
 bool LoadMacroLibrary(MacroLibrary& library, Files& files, const std::string& programFolder) {

@@ -42,7 +42,7 @@ std::string formatMacroKey(const MacroKey& macro);
 // The program folder ends with a slash. Writers answer false when the file cannot be written; the old one is
 // then untouched.
 
-bool SaveMacroLibrary(const MacroLibrary& library, Files& files, const std::string& programFolder);
+bool SaveMacroLibrary(MacroLibrary& library, Files& files, const std::string& programFolder);
 /// Reads the long form. A file that is missing or refused is set aside, and the default library takes its
 /// place in memory and on disk; the answer is then false.
 bool LoadMacroLibrary(MacroLibrary& library, Files& files, const std::string& programFolder);

@@ -40,7 +40,7 @@ bool RemoveMacroSet(MacroLibrary& library, int index) {
 }
 
 void ClearMacroLibrary(MacroLibrary& library) {
-    library.sets.clear();
+    library = {};
 }
 
 void resetMacroLibrary(MacroLibrary& library) {

@@ -73,6 +73,7 @@ struct MacroSet {
 
 struct MacroLibrary {
     std::vector<MacroSet> sets;
+    bool saveFailed = false; ///< the disk refused the main library: to be saved with the next that is saved
     bool operator==(const MacroLibrary&) const = default;
 };
 

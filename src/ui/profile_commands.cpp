@@ -38,7 +38,8 @@ void ProfileCommands::Commit() {
     for (int n = 0; n < profileCount; ++n)
         SaveProfileFile(m_context.store, n, m_context.files);
     bool& macrosChanged = m_context.link.pending().m_bMacroLibraryChanged;
-    if (macrosChanged) SaveMacroLibrary(m_context.macros, m_context.files, m_context.programFolder);
+    if (macrosChanged || m_context.macros.saveFailed)
+        SaveMacroLibrary(m_context.macros, m_context.files, m_context.programFolder);
     macrosChanged = false;
 }
 

@@ -96,6 +96,12 @@ class DeviceBench {
             store.ResetProfile(n);
             store.SetSlotPath(n, "p" + toText(n));
         }
+        makeLink();
+    }
+
+    /// A new one, as after a new start of the program.
+    void makeLink() {
+        link.reset();
         DeviceLink::Surroundings surroundings{hid, clock, loop, {store, macros, files, folder}, owner};
         link = std::make_unique<DeviceLink>(surroundings);
     }

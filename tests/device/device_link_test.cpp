@@ -64,33 +64,6 @@ TEST(DeviceLink, AnImpossibleActiveProfileEndsTheFullReadUntilTheNextUnplugging)
     EXPECT_EQ(bench.requests(), plainRead);
 }
 
-TEST(DeviceLink, AFailureInTheFullReadLosesThatPartAlone) {
-    UsedBench whole;
-    const auto before = whole.store.ProfileTable;
-    whole.start();
-    const int wholePause = whole.totalPause();
-    for (std::size_t failing = 0; failing < 18; failing += failing == 16 ? 1 : 2) { // all but the selections
-        SCOPED_TRACE(failing);
-        UsedBench bench;
-        bench.keyboard.failRequest(failing);
-        bench.start();
-        EXPECT_EQ(bench.told(), (Words{"macros", failing == 0 ? "show 0" : "show 2"}));
-        EXPECT_EQ(bench.requests().at(failing).back(), '!');
-        auto expected = whole.store.ProfileTable;
-        const std::size_t profile = failing / 2 - (failing < 8 ? 1 : 4);
-        if (failing >= 2 && failing <= 6) expected[profile].Settings = before[profile].Settings;
-        if (failing >= 8 && failing <= 12) {
-            expected[profile].KeyCodes = before[profile].KeyCodes;
-            expected[profile].GKeys = before[profile].GKeys; // and so no macro to ask for
-        }
-        if (failing == 14) expected[0].GKeys[5].Name = before[0].GKeys[5].Name;
-        if (failing == 16) expected[2].GKeys[0].Name = before[2].GKeys[0].Name;
-        EXPECT_EQ(bench.store.ProfileTable, expected);
-        const int lost = failing == 8 ? 16 : failing == 12 ? 16 + 350 : failing == 16 ? 350 : 0;
-        EXPECT_EQ(bench.totalPause(), wholePause - lost);
-    }
-}
-
 TEST(DeviceLink, TheLastMatchAmongTheFirstThirtyInterfacesIsTaken) {
     DeviceBench bench;
     bench.hid.before.assign(30, VirtualHid::mouse("mouse"));

@@ -1,12 +1,10 @@
 #include "platform/files.h"
 
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -95,24 +93,6 @@ TEST_F(SystemFilesTest, ReplacingNeverWritesIntoTheOldFileAndKeepsLinksAndPermis
     EXPECT_FALSE(files->replace(at("loop"), "x"));
     EXPECT_THAT(names(), testing::UnorderedElementsAre("real", "witness", "link", "outer", "dangling",
                                                        "new target", "loop"));
-}
-
-TEST_F(SystemFilesTest, FullDiskKeepsTheOldFileAndLeavesNothingBehind) {
-    put("x", "old");
-    ASSERT_EQ(::chmod(folder.c_str(), 0777), 0);
-    ASSERT_EQ(::chmod(at("x").c_str(), 0666), 0);
-    const auto refused = [&](std::size_t size) {
-        return inOrdinaryProcess([&] {
-            std::signal(SIGXFSZ, SIG_IGN);
-            const rlimit limit{4096, 4096};
-            return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 && !files->replace(at("x"), std::string(size, 'n'));
-        });
-    };
-    EXPECT_TRUE(refused(5000));
-    EXPECT_EQ(files->read(at("x")), "old");
-    EXPECT_THAT(names(), testing::ElementsAre("x"));
-    EXPECT_FALSE(refused(4096));
-    EXPECT_EQ(files->read(at("x"))->size(), 4096u);
 }
 
 TEST_F(SystemFilesTest, ForbiddenPlacesAreRefusedAndStayAsTheyAre) {

@@ -17,7 +17,7 @@ class MemoryFiles : public Files {
     /// "read PATH", "replace PATH", "set aside PATH" in the order of the calls, failed ones with " failed" at
     /// the end.
     std::vector<std::string> log;
-    int failWriteNumber = 0; ///< this write (from 1, counted from the start) fails; 0: none
+    int failWriteNumber = 0; ///< this write (from 1, counted from now) fails; 0: none
     bool failSetAside = false;
 
     std::optional<std::string> read(const std::string& path) override {
@@ -28,8 +28,7 @@ class MemoryFiles : public Files {
     }
 
     bool replace(const std::string& path, std::string_view text) override {
-        ++m_writes;
-        const bool done = !path.empty() && m_writes != failWriteNumber;
+        const bool done = !path.empty() && (failWriteNumber == 0 || --failWriteNumber != 0);
         note("replace", path, done);
         if (done) contents[path] = std::string(text);
         return done;
@@ -50,8 +49,6 @@ class MemoryFiles : public Files {
     void note(const char* what, const std::string& path, bool done) {
         log.push_back(std::string(what) + ' ' + path + (done ? "" : " failed"));
     }
-
-    int m_writes = 0;
 };
 
 } // namespace tarnix

@@ -113,5 +113,25 @@ TEST(ProfileCommands, ProfileFilesBindTheSlotAndABadOneIsReplacedByTheDefaults) 
     });
 }
 
+TEST(ProfileCommands, WhatTheDiskRefusesToAnApplyIsSavedByTheNext) {
+    MainWindowBench bench;
+    bench.run([&] {
+        Journal whole = written(bench, {"config.ini"});
+        for (const char* name : {"default0.psf", "default1.psf", "default2.psf", "default3.psf",
+                                 "default4.psf", "MacroLibraryFile.mlf"})
+            whole = whole + written(bench, {name});
+        for (int failing = 0; failing < 7; ++failing) {
+            bench.window->link().pending().m_bMacroLibraryChanged = true;
+            bench.files.failWriteNumber = failing + 1;
+            bench.window->send(id::applyButton, 0, NOTIFY_CLICK);
+            Journal expected = Journal{"set 05 03 00"} + whole;
+            expected[1 + failing] += " failed";
+            EXPECT_EQ(headers(bench.changes()), expected);
+        }
+        bench.window->send(id::applyButton, 0, NOTIFY_CLICK);
+        EXPECT_EQ(headers(bench.changes()), Journal{"set 05 03 00"} + whole);
+    });
+}
+
 } // namespace
 } // namespace tarnix

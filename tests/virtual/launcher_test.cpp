@@ -46,9 +46,10 @@ TEST_F(LauncherTest, LendsTheKeyboardToAProgramAndEndsWithItsStatus) {
 TEST_F(LauncherTest, AnswersCommandsInOrderAndRefusesBadOnes) {
     LauncherProcess launcher({"--unplugged", "--", "/bin/sleep", "1000"});
     for (const char* bad :
-         {"emit 5", "emit 256 0", "emit 0x", "profile 0", "profile 4", "light mode", "light blue 3",
-          "light all 1 2 3", "lock win 2", "record 7", "record 1 04", "record 1 04:100", "seed 1 1",
-          "fail some", "delay -1", "mouse", "wait x", "PLUG", "fail 99999999999"}) {
+         {"emit 5",      "emit 256 0",      "emit 0x",         "profile 0",  "profile 4",
+          "light mode",  "light blue 3",    "light all 1 2 3", "lock win 2", "record 7",
+          "record 1 04", "record 1 04:100", "seed 1 1",        "fail some",  "delay -1",
+          "vanish x",    "mouse",           "wait x",          "PLUG",       "fail 99999999999"}) {
         launcher.command(bad);
         EXPECT_THAT(launcher.until("\n"), testing::Eq("error: " + std::string(bad) + "\n"));
     }

@@ -80,10 +80,12 @@ bool writeAll(int descriptor, std::string_view text) {
     return true;
 }
 
-/// A new file in the folder under a name that nobody else uses; removed again unless it gets a lasting name.
+/// A new file in the folder. Where the file system can do so it has no name while it is written, so that a
+/// process that dies leaves nothing behind; else one that nobody else uses. Removed again unless it gets a
+/// lasting name.
 class TemporaryFile {
   public:
-    TemporaryFile(const fs::path& folder, mode_t mode) : m_file(create(folder, mode)) {}
+    TemporaryFile(const fs::path& folder, mode_t mode) : m_folder(folder), m_file(create(mode)) {}
     ~TemporaryFile() {
         if (!m_path.empty()) ::unlink(m_path.c_str());
     }
@@ -98,25 +100,50 @@ class TemporaryFile {
     void setMode(mode_t mode) { ::fchmod(m_file.get(), mode); }
 
     bool rename(const fs::path& target) {
+        if (m_path.empty() && !giveName()) return false;
         if (!m_file.close() || ::rename(m_path.c_str(), target.c_str()) != 0) return false;
         m_path.clear();
         return true;
     }
 
   private:
-    int create(const fs::path& folder, mode_t mode) {
+    int create(mode_t mode) {
+        const bool canBeNamed = ::access(openFiles, X_OK) == 0;
+        const int nameless =
+            canBeNamed ? ::open(m_folder.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, mode) : -1;
+        if (nameless >= 0) return nameless;
+        int number = -1;
+        claimName([&](const char* path) {
+            number = ::open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+            return number >= 0;
+        });
+        return number;
+    }
+
+    bool giveName() {
+        const std::string file = openFiles + ('/' + std::to_string(m_file.get()));
+        return claimName([&](const char* path) {
+            return ::linkat(AT_FDCWD, file.c_str(), AT_FDCWD, path, AT_SYMLINK_FOLLOW) == 0;
+        });
+    }
+
+    /// Tries names until one is free; whether the file has one then.
+    template <class Claim>
+    bool claimName(Claim claim) {
         constexpr int attempts = 100;
         std::random_device random;
         for (int i = 0; i < attempts; ++i) {
-            const fs::path path = folder / (".tarnix-" + std::to_string(random()));
-            const int number = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-            if (number >= 0) m_path = path;
-            if (number >= 0 || errno != EEXIST) return number;
+            const fs::path path = m_folder / (".tarnix-" + std::to_string(random()));
+            if (claim(path.c_str())) m_path = path;
+            if (!m_path.empty() || errno != EEXIST) break;
         }
-        return -1;
+        return !m_path.empty();
     }
 
-    fs::path m_path;
+    static constexpr const char* openFiles = "/proc/self/fd";
+
+    fs::path m_folder;
+    fs::path m_path; ///< empty without a name
     Descriptor m_file;
 };
 

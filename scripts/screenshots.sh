@@ -24,8 +24,9 @@ for scale in "$@"; do
     GALLERY_COMPOSITED=-composited on_a_desktop \
         sh -c 'xcompmgr & "$@"; status=$?; kill $!; exit $status' gallery \
             build/tarnix-gallery --gtest_filter="*OnScreenDisplay"
-    montage -label '%t' "$folder"/*.png -tile 6x -geometry $((500 * scale / 100))x+8+8 "out/contact-sheet-$scale.png"
-    echo "out/contact-sheet-$scale.png: $(ls "$folder" | wc -l) pictures"
+    pictures=("$folder"/*.png)
+    montage -label '%t' "${pictures[@]/%/[500x]}" -tile 6x -geometry +8+8 "out/contact-sheet-$scale.png"
+    echo "out/contact-sheet-$scale.png: ${#pictures[@]} pictures"
 done
 
 icons=build/src/res/art/icons

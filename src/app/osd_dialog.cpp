@@ -7,8 +7,14 @@ constexpr Size osdSize{300, 56};
 constexpr int osdOpacity = 128;
 constexpr Color osdBackground = rgb(164, 73, 164);
 constexpr Point textAt{30, 14};
-constexpr TextFormat textFormat{
-    .height = 24, .weight = 700, .color = rgb(255, 255, 255), .shrinks = true, .ellipsis = false};
+constexpr Color textColor = rgb(255, 255, 255);
+/// Around the letters: over a light desktop the half translucent ground is hardly darker than they are.
+constexpr Color edgeColor = rgb(38, 8, 46);
+constexpr Point edges[] = {{-1, -1}, {0, -1}, {1, -1}, {-1, 0}, {1, 0}, {-1, 1}, {0, 1}, {1, 1}};
+
+constexpr TextFormat textIn(Color color) {
+    return {.height = 24, .weight = 700, .color = color, .shrinks = true, .ellipsis = false};
+}
 
 } // namespace
 
@@ -29,7 +35,10 @@ void COSDDialog::SetText(const std::string& text) {
 void COSDDialog::OnPaint(Canvas& canvas, const Rect&) {
     const Rect client = clientRect();
     canvas.fill(client, osdBackground);
-    canvas.drawText(m_text, {textAt.x, textAt.y, client.right, client.bottom}, textFormat);
+    const Rect area{textAt.x, textAt.y, client.right, client.bottom};
+    for (const Point edge : edges)
+        canvas.drawText(m_text, area.moved(edge.x, edge.y), textIn(edgeColor));
+    canvas.drawText(m_text, area, textIn(textColor));
 }
 
 } // namespace tarnix

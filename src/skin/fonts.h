@@ -5,9 +5,7 @@
 
 namespace tarnix {
 
-/// Names in the macro lists and in popup lists of macros.
-inline constexpr TextFormat controlFont{.height = 12, .verticalCentred = true};
-/// Values of drop-down fields and the rows of popup lists.
+/// Values of drop-down fields, and the rows of lists and popup lists.
 inline constexpr TextFormat valueFont{.verticalCentred = true};
 /// Labels.
 inline constexpr TextFormat labelFont{};

@@ -18,7 +18,6 @@ constexpr Color white = 0xFFFFFF;
 constexpr Color black = 0x000000;
 constexpr TextFormat whiteValue = colored(valueFont, white);
 constexpr TextFormat blackValue = colored(valueFont, black);
-constexpr TextFormat whiteName = colored(controlFont, white);
 
 void put(SelectionRecord& record, std::string_view text, const KeyAssignment& value) {
     record.text = text;
@@ -88,15 +87,15 @@ constexpr ListClass multimediaList{"CProfilePopup", 1, 2, 158, whiteValue, 0, mu
                                    chooseMultimedia};
 constexpr ListClass webList{"CDPIPopup", 2, 2, 158, whiteValue, 0, webFunctions, chooseWeb};
 constexpr ListClass mouseList{"CMultimediaPopup", 3, 3, 0, whiteValue, 0, mouseFunctions, chooseMouse};
-constexpr ListClass macroList{"CMacroLibraryPopup", 4, 0, 158, whiteName, 0, {}, nullptr};
-constexpr ListClass macroSetsList{"CMacroSetListPopup", 5, 0, 194, whiteName, 0, {}, nullptr};
+constexpr ListClass macroList{"CMacroLibraryPopup", 4, 0, 158, whiteValue, 0, {}, nullptr};
+constexpr ListClass macroSetsList{"CMacroSetListPopup", 5, 0, 194, whiteValue, 0, {}, nullptr};
 constexpr ListClass brightnessList{"CLightBrightnessPopup",      8, 1, 169, blackValue, INT_MAX, brightnesses,
                                    chooseSetting<BrightnessName>};
 constexpr ListClass modeList{"CLightModePopup", 9,       1,          169,
                              blackValue,        INT_MAX, lightModes, chooseSetting<LightModeName>};
 constexpr ListClass speedList{"CLightSpeedPopup", 10,      1,      169,
                               blackValue,         INT_MAX, speeds, chooseSetting<SpeedName>};
-constexpr ListClass macroSetList{"CMacroSetPopup", 100, 0, 158, whiteName, 0, {}, nullptr};
+constexpr ListClass macroSetList{"CMacroSetPopup", 100, 0, 158, whiteValue, 0, {}, nullptr};
 
 /// What the category list sends when its rows become hot: one message a row with a sub-list, one for all
 /// others.

@@ -94,7 +94,7 @@ std::string CEditShowList::editorText() const {
 }
 
 void CEditShowList::drawRow(Canvas& canvas, int index, const Rect& row) {
-    canvas.drawText(shownSet()->keys[static_cast<std::size_t>(index)].name, row, colored(controlFont, white));
+    canvas.drawText(shownSet()->keys[static_cast<std::size_t>(index)].name, row, colored(valueFont, white));
 }
 
 void CEditShowList::pressed(Point at) {
@@ -154,8 +154,7 @@ void CImageShowList::drawRow(Canvas& canvas, int index, const Rect& row) {
     const ImageStrip& icon = action.isDelay() ? m_delay : action.isRelease() ? m_release : m_press;
     const Size size = m_release.frameSize();
     icon.draw(canvas, 0, Rect::at(row.left, row.top + 3, size.width, size.height));
-    canvas.drawText(text(index), {row.left + 15, row.top, row.right, row.bottom},
-                    colored(controlFont, white));
+    canvas.drawText(text(index), {row.left + 15, row.top, row.right, row.bottom}, colored(valueFont, white));
 }
 
 } // namespace tarnix

@@ -67,7 +67,7 @@ constexpr std::array<CapLegend, 66> legends{{
     {"Keypad *", "*", "", CapSign::None, Modifier},
     {"Keypad -", "-", "", CapSign::None, Modifier},
     {"Keypad +", "+", "", CapSign::None, Modifier},
-    {"Keypad Enter", "Enter", "", CapSign::None, Modifier},
+    {"Keypad Enter", "Enter", "", CapSign::Enter, Modifier},
     {"Keypad .", ".", ""},
     {"Keypad 0", "0", ""},
     {"Keypad 1", "1", ""},
@@ -221,17 +221,25 @@ void paintSign(QPainter& p, const QPointF& centre, CapSign sign, const QColor& c
 void paintWordAndSign(QPainter& p, const QRectF& face, const CapLegend& legend, const QColor& color) {
     const QString word = QString::fromLatin1(legend.text);
     if (face.height() > face.width()) {
-        setText(p, face.translated(0, 8), word, Type::LegendWord, color);
+        setFitted(p, face.adjusted(2, 8, -2, 8), word, Type::LegendWord, color);
         paintSign(p, face.center() - QPointF(0, 7), legend.sign, color);
         return;
     }
     constexpr double signWidth = 11;
     constexpr double gap = 3;
-    const double width = textWidth(word, Type::LegendWord) + gap + signWidth;
+    const double width = textWidth(word, Type::LegendWide) + gap + signWidth;
     const double left = face.center().x() - width / 2;
     paintSign(p, QPointF(left + signWidth / 2, face.center().y()), legend.sign, color);
-    setText(p, QRectF(left + signWidth + gap, face.top(), width, face.height()), word, Type::LegendWord,
+    setText(p, QRectF(left + signWidth + gap, face.top(), width, face.height()), word, Type::LegendWide,
             color, Qt::AlignLeft);
+}
+
+/// The function keys' numbers are set alike, whether they have one digit or two.
+Type typeOfWord(const CapLegend& legend) {
+    const bool numbered = legend.text[0] == 'F' && legend.text[1] >= '1' && legend.text[1] <= '9';
+    if (numbered) return Type::LegendNumber;
+    if (std::strlen(legend.text) < 3) return Type::Legend;
+    return legend.tone == Modifier ? Type::LegendWide : Type::LegendWord;
 }
 
 void paintLegend(QPainter& p, const QRectF& face, const CapLegend& legend, const QColor& color) {
@@ -249,7 +257,7 @@ void paintLegend(QPainter& p, const QRectF& face, const CapLegend& legend, const
         setFitted(p, inner.translated(0, -apart), upper, type, color, word);
         setFitted(p, inner.translated(0, apart), word, type, color, upper);
     } else if (!word.isEmpty()) {
-        setFitted(p, inner, word, word.size() > 2 ? Type::LegendWord : Type::Legend, color);
+        setFitted(p, inner, word, typeOfWord(legend), color);
     }
 }
 

@@ -29,18 +29,33 @@ void paintCancel(Sheet& sheet, const ControlRow& row) {
 
 const QColor& closeHoverPlate = palette::mossDark;
 
+/// All dialogs have the same close sign at the same distance from their top right corner, however large the
+/// button's rectangle is.
+const Rect closeSign = controlOf(dialog::notice::controls, dialog::closeButton).rect;
+
+/// Under the pointer it is a dark plate whose cross lets the title strip show. Both have whole pixels: their
+/// colours are those that the profile form's strip leaves out or cannot be told from the strip.
 void paintCloseSign(QPainter& p, const QRectF& area, int frame) {
-    const bool rest = Frame(frame) == Frame::Rest;
-    if (!rest)
-        plate(p, area, 4, Frame(frame) == Frame::Hover ? closeHoverPlate : palette::ink, closeHoverPlate);
-    cross(p, area.center(), 3.2, 1.6, rest ? palette::ink : palette::paper);
+    if (Frame(frame) == Frame::Rest) return cross(p, area.center(), 3.2, 1.6, palette::ink);
+    p.setRenderHint(QPainter::Antialiasing, false);
+    const QColor plateColor = Frame(frame) == Frame::Hover ? closeHoverPlate : palette::ink;
+    p.fillRect(area.adjusted(1, 0, -1, 0), plateColor);
+    p.fillRect(area.adjusted(0, 1, 0, -1), plateColor);
+    cross(p, area.center(), 3.2, 1.6, dialogTitleGround);
 }
 
 /// Both numbers of a close button's record get the strip.
-void paintClose(Sheet& sheet, const ControlRow& row) {
+void paintClose(Sheet& sheet, const ControlRow& row, Size dialogSize) {
+    const QPointF offset(dialogSize.width - dialog::wideSize.width + closeSign.left - row.rect.left,
+                         closeSign.top - row.rect.top);
     for (int id : {row.region.bitmap, row.region.secondBitmap})
         sheet.keyedStrip(static_cast<unsigned>(id), frameOf(row), dialogTitleGround, dialogTitleGround,
-                         paintCloseSign);
+                         [offset](QPainter& p, const QRectF& area, int frame) {
+                             paintCloseSign(p,
+                                            rectF(closeSign.moved(-closeSign.left, -closeSign.top))
+                                                .translated(area.topLeft() + offset),
+                                            frame);
+                         });
 }
 
 /// The notices' close button, whose strip the profile form copies in wider frames. There the first frame also
@@ -73,8 +88,8 @@ void paintDialogButtons(Sheet& sheet) {
 
     paintSharedClose(sheet, controlOf(notice::controls, closeButton),
                      controlOf(profile::controls, closeButton));
-    paintClose(sheet, controlOf(shortcut::controls, closeButton));
-    paintClose(sheet, controlOf(launch::controls, closeButton));
+    paintClose(sheet, controlOf(shortcut::controls, closeButton), shortcut::size);
+    paintClose(sheet, controlOf(launch::controls, closeButton), launch::size);
 }
 
 } // namespace tarnix::art

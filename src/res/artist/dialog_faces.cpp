@@ -70,7 +70,7 @@ void paintKeyMap(Sheet& sheet) {
         labelBeside(p, placeOf(controls, keyRadio), QStringLiteral("Keyboard function"));
         labelBeside(p, placeOf(controls, mouseRadio), QStringLiteral("Mouse function"));
         const QRectF value = rectF(placeOf(controls, keyFunction));
-        plate(p, value.adjusted(-1, -4, 1, 0), 5, palette::sagePale, palette::sage);
+        plate(p, value.adjusted(-1, -6, 1, 0), 5, palette::sagePale, palette::sage);
     });
 }
 
@@ -85,7 +85,7 @@ void paintShortcut(Sheet& sheet) {
               std::pair{dialog::shortcut::shift, "Shift"}, std::pair{alt, "Alt"}, std::pair{win, "Win"}})
             labelBeside(p, placeOf(controls, box), QString::fromLatin1(words), Type::Caption, 5);
         const QRectF key = rectF(placeOf(controls, keyName));
-        setText(p, QRectF(key.left(), key.top() - 23, 100, 18), QStringLiteral("Key"), Type::Caption,
+        setText(p, QRectF(key.left() - 4, key.top() - 23, 100, 18), QStringLiteral("Key"), Type::Caption,
                 palette::mist, Qt::AlignLeft);
         paintDarkField(p, key.adjusted(-5, -3, 3, 1));
     });
@@ -113,7 +113,7 @@ void completeButton(QPainter& p, const Rect& place, double room, const QString& 
     const QRectF shown(area.left(), area.top(), std::min(room, area.width()), area.height());
     button(p, shown, QString(), look, Frame::Rest, Type::Button);
     p.save();
-    p.setClipRect(shown.adjusted(8, 4, -4, -4));
+    p.setClipRect(shown.adjusted(8, 4, -2, -4));
     button(p, area, word, look, Frame::Rest, Type::Button);
     p.restore();
 }
@@ -134,7 +134,7 @@ void paintEditProfile(Sheet& sheet) {
         paintWordmark(p, QRectF(350, 92, 150, 100));
         const Rect ok = placeOf(controls, dialog::okButton);
         const Rect cancel = placeOf(controls, dialog::cancelButton);
-        completeButton(p, ok, cancel.left - ok.left - 3, QStringLiteral("OK"), ButtonLook::Main);
+        completeButton(p, ok, cancel.left - ok.left, QStringLiteral("OK"), ButtonLook::Main);
         completeButton(p, cancel, size.width, QStringLiteral("Cancel"), ButtonLook::Quiet);
     });
 }

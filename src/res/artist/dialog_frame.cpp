@@ -17,8 +17,8 @@ void paintDialogFrame(QPainter& p, Size size, const QString& title, double foot,
     p.fillRect(QRectF(0, foot, window.width(), 1), palette::line);
     p.restore();
     if (!title.isEmpty())
-        setText(p, QRectF(21, 1, window.width() - 80, titleStripHeight - 1), title, Type::Button,
-                palette::ink, Qt::AlignLeft);
+        setText(p, QRectF(21, 1, window.width() - 80, titleStripHeight - 1), title, Type::Title, palette::ink,
+                Qt::AlignLeft);
 }
 
 void paintDarkField(QPainter& p, const QRectF& field, const QColor& ground) {

@@ -112,10 +112,12 @@ void paintBrowse(QPainter& p, const QRectF& area, int frame) {
     p.drawPath(folder);
 }
 
-void paintScrollArrow(QPainter& p, const QRectF& area, int frame, Direction direction) {
+/// The bar puts its down arrow one pixel row too low, so the last row stays empty.
+void paintScrollArrow(QPainter& p, const QRectF& frameArea, int frame, Direction direction) {
     using namespace palette;
     const QColor fills[] = {moss, spring, springDeep};
-    plate(p, area, 3, fills[frame], mossDeep);
+    const QRectF area = frameArea.adjusted(0, 0, 0, direction == Direction::Down ? -1 : 0);
+    plate(p, area, 0, fills[frame], mossDeep);
     chevron(p, area.center(), 3.6, direction, 1.8, ink);
 }
 

@@ -40,16 +40,19 @@ constexpr std::array<Wording, 4> macroWordings{{
     {id::macroButton4, "Export", ButtonLook::Quiet, Type::Small},
 }};
 
+/// Buttons that are `room` pixels high at most, at the top of their rectangles.
 template <typename Table, std::size_t count>
-void paintWorded(Sheet& sheet, const Table& table, const std::array<Wording, count>& words) {
+void paintWorded(Sheet& sheet, const Table& table, const std::array<Wording, count>& words,
+                 double room = 100) {
     for (const Wording& row : words) {
         const ControlRow& control = controlOf(table, row.control);
-        sheet.strip(control.image, control.rect.size(), picture::buttonFrames,
-                    [&row](QPainter& p, const QRectF& area, int frame) {
-                        const double margin = row.look == ButtonLook::Tab || area.height() > 30 ? 2 : 1;
-                        button(p, area, QString::fromLatin1(row.word), row.look, Frame(frame), row.type,
-                               margin);
-                    });
+        sheet.strip(
+            control.image, control.rect.size(), picture::buttonFrames,
+            [&row, room](QPainter& p, const QRectF& area, int frame) {
+                const QRectF part(area.left(), area.top(), area.width(), std::min(area.height(), room));
+                const double margin = part.height() > 30 ? 2 : 1;
+                button(p, part, QString::fromLatin1(row.word), row.look, Frame(frame), row.type, margin);
+            });
     }
 }
 
@@ -94,7 +97,10 @@ void paintMainControls(Sheet& sheet) {
     paintWindowButton(sheet, id::closeButton, WindowSign::Close);
     paintWindowButton(sheet, id::minimiseButton, WindowSign::Minimise);
     paintWorded(sheet, commonControls, wordings);
-    paintWorded(sheet, macroPageControls, macroWordings);
+    // The row of tabs begins within the macro buttons' rectangles.
+    const double room =
+        placeOf(commonControls, id::keyPageTab).top - placeOf(macroPageControls, id::macroButton1).top;
+    paintWorded(sheet, macroPageControls, macroWordings, room);
     paintAreaMarkers(sheet);
 }
 

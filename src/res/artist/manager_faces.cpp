@@ -30,8 +30,7 @@ constexpr StepSign stepSigns[] = {
 /// How a recording goes, and what the signs in the list of steps mean.
 void paintHints(QPainter& p, double left, double top) {
     double y = top;
-    for (const char* line :
-         {"Choose a macro and press", "Record, type what it shall", "hold, then press Stop."}) {
+    for (const char* line : {"Choose a macro, press", "Record, type the keys,", "then press Stop."}) {
         setText(p, QRectF(left, y, 200, 18), QString::fromLatin1(line), Type::Caption, palette::mist,
                 Qt::AlignLeft);
         y += 18;

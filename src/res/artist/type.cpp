@@ -24,6 +24,8 @@ TypeRow rowOf(Type type) {
             return {13, QFont::Normal};
         case Type::Label:
             return {13, QFont::Medium};
+        case Type::Title:
+            return {12, QFont::Normal};
         case Type::Caption:
             return {11.5, QFont::Medium};
         case Type::Button:
@@ -32,7 +34,11 @@ TypeRow rowOf(Type type) {
             return {12, QFont::DemiBold};
         case Type::Legend:
             return {11, QFont::DemiBold};
+        case Type::LegendNumber:
+            return {9.5, QFont::DemiBold};
         case Type::LegendTwo:
+            return {8.5, QFont::DemiBold};
+        case Type::LegendWide:
             return {8.5, QFont::DemiBold};
         case Type::LegendWord:
             return {7.5, QFont::DemiBold};

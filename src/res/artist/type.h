@@ -8,16 +8,19 @@
 namespace tarnix::art {
 
 enum class Type {
-    Display,   ///< the program's name in the window's head
-    Heading,   ///< a question, a page's title
-    Body,      ///< sentences
-    Label,     ///< words beside controls
-    Caption,   ///< headings of groups, hints
-    Button,    ///< words on large buttons and tabs
-    Small,     ///< words on small buttons
-    Legend,    ///< a key's letter
-    LegendTwo, ///< one of two signs on a key
-    LegendWord ///< a word on a key
+    Display,      ///< the program's name in the window's head
+    Heading,      ///< a question, a page's title
+    Body,         ///< sentences
+    Label,        ///< words beside controls
+    Title,        ///< a dialog's title, set as the program sets a notice's
+    Caption,      ///< headings of groups, hints
+    Button,       ///< words on large buttons and tabs
+    Small,        ///< words on small buttons
+    Legend,       ///< a key's letter
+    LegendNumber, ///< a function key's number
+    LegendTwo,    ///< one of two signs on a key
+    LegendWide,   ///< a word on a wide key
+    LegendWord    ///< a word on a key of a letter's size
 };
 
 /// True when the family that the art is set in is installed.

@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
+#include <fstream>
+#include <memory>
 #include <set>
 #include <span>
 #include <stdexcept>
@@ -11,8 +12,9 @@
 #include <utility>
 #include <vector>
 
+#include "contrast.h"
 #include "macro_manager/manager_layout.h"
-#include "platform/resources.h"
+#include "platform/builtin_resources.h"
 #include "res/resource_ids.h"
 #include "ui/dialog_layouts.h"
 #include "ui/main_window_layout.h"
@@ -70,22 +72,12 @@ const Image& pictureOf(ResourceType type, unsigned id) {
     return *image;
 }
 
-double luminance(Color color) {
-    const auto linear = [](int value) {
-        const double share = value / 255.0;
-        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(redOf(color)) + 0.7152 * linear(greenOf(color)) + 0.0722 * linear(blueOf(color));
-}
-
-/// The lowest contrast of a text with what it stands on, as WCAG 2.1 defines it.
+/// The lowest contrast of a text with what it stands on.
 double lowestContrast(Color text, const Image& ground, const Rect& area) {
     double lowest = 21;
     for (int y = area.top; y < area.bottom; ++y)
-        for (int x = area.left; x < area.right; ++x) {
-            const auto [dark, light] = std::minmax({luminance(text), luminance(ground.pixel({x, y}))});
-            lowest = std::min(lowest, (light + 0.05) / (dark + 0.05));
-        }
+        for (int x = area.left; x < area.right; ++x)
+            lowest = std::min(lowest, contrast(text, ground.pixel({x, y})));
     return lowest;
 }
 
@@ -166,6 +158,36 @@ TEST(Art, RegionButtonsLeaveOutWhatLooksLikeTheirGround) {
             const Point inside{row.region.frameWidth * 3 / 2, row.region.frameHeight / 4};
             EXPECT_NE(key, strip.pixel(inside)) << row.region.bitmap;
         }
+}
+
+/// The stored pixels of a picture at a scale.
+std::unique_ptr<Image> storedPicture(const std::string& type, unsigned id, int scale) {
+    for (BuiltinImage stored : builtinImages())
+        if (stored.id == id && stored.scale == scale &&
+            (stored.type == ResourceType::Png) == (type == "Png")) {
+            stored.scale = 1;
+            return makeImage(stored);
+        }
+    throw std::out_of_range("picture " + std::to_string(id) + " is missing");
+}
+
+TEST(Art, EveryWordInThePicturesStandsOutFromItsGround) {
+    std::ifstream table(ART_WORDS);
+    std::string type, words;
+    unsigned id;
+    Size size;
+    Point at;
+    int lines = 0;
+    double lowest = 21;
+    for (int scale; table >> type >> id >> scale >> at.x >> at.y >> size.width >> size.height; ++lines) {
+        std::getline(table, words);
+        const double found = contrastIn(*storedPicture(type, id, scale),
+                                        Rect::at(at.x, at.y, size.width, size.height).inset(-1));
+        EXPECT_GE(found, 4.5) << type << " " << id << " at scale " << scale << ":" << words;
+        lowest = std::min(lowest, found);
+    }
+    EXPECT_GT(lines, 1000);
+    RecordProperty("lowest", std::to_string(lowest));
 }
 
 /// Labels are one line at the top of their rectangles.

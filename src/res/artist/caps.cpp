@@ -1,6 +1,7 @@
 #include "artist/caps.h"
 
 #include <array>
+#include <cctype>
 #include <cstring>
 #include <stdexcept>
 #include <string>
@@ -14,8 +15,8 @@ using enum CapTone;
 /// Keys that do not simply bear their own name.
 constexpr std::array<CapLegend, 66> legends{{
     {"Esc", "Esc", "", CapSign::None, Function},
-    {"Print", "PrtSc", "", CapSign::None, Function},
-    {"Scroll Lock", "Lock", "Scroll", CapSign::None, Function},
+    {"Print", "Sc", "Prt", CapSign::None, Function},
+    {"Scroll Lock", "Lock", "Scr", CapSign::None, Function},
     {"Pause", "Pause", "", CapSign::None, Function},
     {"~", "`", "~"},
     {"1", "1", "!"},
@@ -56,8 +57,8 @@ constexpr std::array<CapLegend, 66> legends{{
     {"Del", "Del", "", CapSign::None, Function},
     {"Home", "Home", "", CapSign::None, Function},
     {"End", "End", "", CapSign::None, Function},
-    {"Page Up", "Up", "Page", CapSign::None, Function},
-    {"Page Down", "Down", "Page", CapSign::None, Function},
+    {"Page Up", "Up", "Pg", CapSign::None, Function},
+    {"Page Down", "Dn", "Pg", CapSign::None, Function},
     {"Up Arrow", "", "", CapSign::Up, Function},
     {"Down Arrow", "", "", CapSign::Down, Function},
     {"Left Arrow", "", "", CapSign::Left, Function},
@@ -238,7 +239,9 @@ void paintWordAndSign(QPainter& p, const QRectF& face, const CapLegend& legend, 
 Type typeOfWord(const CapLegend& legend) {
     const bool numbered = legend.text[0] == 'F' && legend.text[1] >= '1' && legend.text[1] <= '9';
     if (numbered) return Type::LegendNumber;
-    if (std::strlen(legend.text) < 3) return Type::Legend;
+    if (std::strlen(legend.text) == 1)
+        return std::isalnum(static_cast<unsigned char>(legend.text[0])) ? Type::Legend : Type::LegendSign;
+    if (std::strlen(legend.text) == 2) return Type::Legend;
     return legend.tone == Modifier ? Type::LegendWide : Type::LegendWord;
 }
 
@@ -252,10 +255,11 @@ void paintLegend(QPainter& p, const QRectF& face, const CapLegend& legend, const
         paintSign(p, face.center(), legend.sign, color);
     } else if (!upper.isEmpty()) {
         const bool words = word.size() > 1;
-        const double apart = words ? 4.5 : 5;
         const Type type = words ? Type::LegendWord : Type::LegendTwo;
-        setFitted(p, inner.translated(0, -apart), upper, type, color, word);
-        setFitted(p, inner.translated(0, apart), word, type, color, upper);
+        setFitted(p, inner.translated(0, words ? -4.5 : -5.5), upper, type, color, word);
+        const bool tiny = word == QLatin1String("`");
+        setFitted(p, inner.translated(0, words ? 4.5 : 4), word, tiny ? Type::LegendSign : type, color,
+                  upper);
     } else if (!word.isEmpty()) {
         setFitted(p, inner, word, typeOfWord(legend), color);
     }

@@ -130,7 +130,7 @@ void paintEditProfile(Sheet& sheet) {
         setText(p, QRectF(30, first.top() - 25, 200, 18), QStringLiteral("Programs"), Type::Label,
                 palette::paper, Qt::AlignLeft);
         for (unsigned row : {path1, path2, path3})
-            paintDarkField(p, rectF(placeOf(controls, row)).adjusted(-4, 0.5, 1, -0.5));
+            paintDarkField(p, rectF(placeOf(controls, row)).adjusted(-4, -1, 1, -1.5));
         paintWordmark(p, QRectF(350, 92, 150, 100));
         const Rect ok = placeOf(controls, dialog::okButton);
         const Rect cancel = placeOf(controls, dialog::cancelButton);

@@ -5,6 +5,7 @@
 #include <QSaveFile>
 #include <QTextStream>
 #include <algorithm>
+#include <cstdio>
 
 #include "artist/emblem.h"
 #include "artist/keyboard.h"
@@ -69,6 +70,25 @@ const char* nameOf(ResourceType type) {
     return "";
 }
 
+/// A line for each line of text: picture, scale, place and words.
+QByteArray wordsOf(const std::vector<Picture>& pictures) {
+    QString table;
+    QTextStream out(&table);
+    for (const Picture& picture : pictures)
+        for (const PlacedLine& line : picture.lines) {
+            const QRect area = line.area.toAlignedRect();
+            out << nameOf(picture.type) << ' ' << picture.id << ' ' << picture.scale << ' ' << area.left()
+                << ' ' << area.top() << ' ' << area.width() << ' ' << area.height() << ' ' << line.text
+                << '\n';
+        }
+    out.flush();
+    return table.toUtf8();
+}
+
+/// More would be felt: in the program's size, and in what a start reads from the disk.
+constexpr qsizetype mostCompressed = qsizetype{4} << 20;
+constexpr qsizetype mostInPlace = qsizetype{6} << 20;
+
 bool writeFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
@@ -112,10 +132,13 @@ bool writePack(const std::vector<Picture>& pictures, const QString& folder) {
     QByteArray pack;
     QString rows;
     QTextStream out(&rows);
+    qsizetype compressed = 0;
+    qsizetype used = 0;
     for (const Picture& picture : pictures) {
         const bool inPlace = neededAtStart(picture);
         const QByteArray stored = inPlace ? pixelsOf(picture.pixels) : pngOf(picture.pixels);
         if (stored.isEmpty()) return false;
+        (inPlace ? used : compressed) += stored.size();
         out << "    {ResourceType::" << nameOf(picture.type) << ", " << picture.id << ", "
             << picture.pixels.width() << ", " << picture.pixels.height() << ", " << picture.scale << ", "
             << (isOpaque(picture.pixels) ? "true" : "false")
@@ -125,9 +148,16 @@ bool writePack(const std::vector<Picture>& pictures, const QString& folder) {
         pack.append((alignment - pack.size() % alignment) % alignment, '\0');
     }
     out.flush();
+    std::printf("%zu pictures: %lld bytes compressed, %lld bytes used in place\n", pictures.size(),
+                static_cast<long long>(compressed), static_cast<long long>(used));
+    if (compressed > mostCompressed || used > mostInPlace) {
+        std::fprintf(stderr, "artist: the pictures have grown too large\n");
+        return false;
+    }
     const QDir target(folder);
     const QString packPath = QDir::cleanPath(target.absoluteFilePath(QStringLiteral("art.pack")));
     return QDir().mkpath(folder) && writeFile(packPath, pack) &&
+           writeFile(target.filePath(QStringLiteral("words.txt")), wordsOf(pictures)) &&
            writeFile(target.filePath(QStringLiteral("builtin_images.cpp")),
                      indexSource(rows, packPath, pack.size()));
 }

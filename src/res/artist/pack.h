@@ -9,8 +9,10 @@
 
 namespace tarnix::art {
 
-/// Writes art.pack and builtin_images.cpp, which embeds it and defines builtinImages(). What the first frame
-/// needs at 100 % is stored as pixels that are used in place, everything else as PNG. False on any failure.
+/// Writes art.pack, builtin_images.cpp, which embeds it and defines builtinImages(), and words.txt, which
+/// says what can be read where, for tests. What the first frame needs at 100 % is stored as pixels that are
+/// used in place, everything else as PNG. False on any failure, and when the pictures take more room than
+/// they may.
 bool writePack(const std::vector<Picture>& pictures, const QString& folder);
 
 /// Writes every picture as TYPE_ID[@2x].png.

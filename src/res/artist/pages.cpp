@@ -61,6 +61,7 @@ void paintMacroPage(QPainter& p) {
 
 /// A smaller keyboard beside the controls of a page, centred at a point.
 void paintBeside(QPainter& p, const QPointF& centre, double scale, void (*paintKeyboard)(QPainter&)) {
+    const Illustration small;
     p.save();
     QPainterPath stage;
     stage.addRoundedRect(stageArea().adjusted(1, 1, -1, -1), stageRadius, stageRadius);

@@ -41,7 +41,9 @@ bool Sheet::has(ResourceType type, unsigned id) const {
 }
 
 void Sheet::add(ResourceType type, unsigned id, const QImage& pixels) {
-    m_pictures.push_back({type, id, m_scale, pixels});
+    std::vector<PlacedLine> lines = takePlacedLines();
+    std::erase_if(lines, [&pixels](const PlacedLine& line) { return !line.area.intersects(pixels.rect()); });
+    m_pictures.push_back({type, id, m_scale, pixels, std::move(lines)});
 }
 
 void Sheet::strip(unsigned id, Size frame, int frames, const PaintFrame& paint) {

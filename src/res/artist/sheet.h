@@ -6,6 +6,7 @@
 #include <functional>
 #include <vector>
 
+#include "artist/type.h"
 #include "platform/geometry.h"
 #include "platform/resources.h"
 
@@ -16,6 +17,7 @@ struct Picture {
     unsigned id = 0;
     int scale = 1;
     QImage pixels;
+    std::vector<PlacedLine> lines = {}; ///< what can be read in it
 };
 
 class Sheet {

@@ -2,12 +2,17 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QPainterPath>
+#include <utility>
 
 namespace tarnix::art {
 
 namespace {
 
 constexpr const char* family = "Inter";
+
+std::vector<PlacedLine> g_placed;
+int g_illustrations = 0;
 
 struct TypeRow {
     double pixels;
@@ -37,11 +42,13 @@ TypeRow rowOf(Type type) {
         case Type::LegendNumber:
             return {9.5, QFont::DemiBold};
         case Type::LegendTwo:
-            return {8.5, QFont::DemiBold};
+            return {9, QFont::Bold};
+        case Type::LegendSign:
+            return {13, QFont::Bold};
         case Type::LegendWide:
             return {8.5, QFont::DemiBold};
         case Type::LegendWord:
-            return {7.5, QFont::DemiBold};
+            return {7.5, QFont::Medium};
     }
     return {13, QFont::Normal};
 }
@@ -56,9 +63,18 @@ void setLine(QPainter& p, const QRectF& area, const QString& text, const QFont& 
     else if (horizontal & Qt::AlignRight)
         x += area.width() - width;
     const double baseline = area.center().y() + metrics.capHeight() / 2;
+    QPainterPath outline;
+    outline.addText(0, 0, font, text);
+    const QRectF shape = outline.boundingRect();
+    // A single letter's or sign's stem is sharp where it begins with a pixel.
+    const double grid = text.size() == 1 ? p.combinedTransform().m11() : 2;
+    const double shift = text.size() == 1 ? shape.left() : 0;
+    const QPointF origin(qRound((x + shift) * grid) / grid - shift, qRound(baseline));
     p.setFont(font);
     p.setPen(color);
-    p.drawText(QPointF(qRound(x * 2) / 2.0, qRound(baseline)), text);
+    p.drawText(origin, text);
+    if (g_illustrations == 0)
+        g_placed.push_back({p.combinedTransform().mapRect(shape.translated(origin)), text});
 }
 
 } // namespace
@@ -103,6 +119,18 @@ void setFitted(QPainter& p, const QRectF& area, const QString& text, Type type, 
     const double width = std::max(metrics.horizontalAdvance(text), metrics.horizontalAdvance(beside));
     if (width > area.width()) font.setPointSizeF(font.pointSizeF() * area.width() / width);
     setLine(p, area, text, font, color, Qt::AlignHCenter, 0);
+}
+
+Illustration::Illustration() {
+    ++g_illustrations;
+}
+
+Illustration::~Illustration() {
+    --g_illustrations;
+}
+
+std::vector<PlacedLine> takePlacedLines() {
+    return std::exchange(g_placed, {});
 }
 
 double textWidth(const QString& text, Type type) {

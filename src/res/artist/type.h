@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QPainter>
 #include <QString>
+#include <vector>
 
 namespace tarnix::art {
 
@@ -18,6 +19,7 @@ enum class Type {
     Small,        ///< words on small buttons
     Legend,       ///< a key's letter
     LegendNumber, ///< a function key's number
+    LegendSign,   ///< a sign that stands alone on a key
     LegendTwo,    ///< one of two signs on a key
     LegendWide,   ///< a word on a wide key
     LegendWord    ///< a word on a key of a letter's size
@@ -41,5 +43,22 @@ void setSpaced(QPainter& p, const QRectF& area, const QString& text, Type type, 
 void setFitted(QPainter& p, const QRectF& area, const QString& text, Type type, const QColor& color,
                const QString& beside = {});
 double textWidth(const QString& text, Type type);
+
+/// A line as it stands in a picture, in the picture's own pixels.
+struct PlacedLine {
+    QRectF area; ///< of its ink
+    QString text;
+};
+/// The lines that were set since the last call.
+std::vector<PlacedLine> takePlacedLines();
+
+/// While one lives, what is set belongs to the picture of a thing and is not there to be read.
+class Illustration {
+  public:
+    Illustration();
+    ~Illustration();
+    Illustration(const Illustration&) = delete;
+    Illustration& operator=(const Illustration&) = delete;
+};
 
 } // namespace tarnix::art

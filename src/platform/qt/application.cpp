@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QPixmapCache>
 #include <QWindow>
 #include <csignal>
 #include <cstdint>
@@ -63,7 +64,10 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
     const TemporaryVariable kde("KDE_FULL_SESSION", nullptr);
     const TemporaryVariable gnome("GNOME_DESKTOP_SESSION_ID", nullptr);
     QApplication::setDesktopSettingsAware(false);
-    return std::make_unique<QApplication>(argc, argv);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    // A picture in the toolkit's cache is looked at every 30 s; the icons alone would go there.
+    QPixmapCache::setCacheLimit(0);
+    return application;
 }
 
 int g_endSignals = -1; ///< an event descriptor that the signals raise

@@ -10,11 +10,10 @@ void TrayPresence::AddTrayIcon(Window& mainWindow) {
     m_display.emplace(mainWindow);
     const Image* icon = resources().find(ResourceType::Icon, CDlgBase::iconId);
     if (!icon) return;
-    m_icon =
-        makeTrayIcon(*icon, programTitle,
-                     {{"Config Tarnix Keyboard", command::showWindow}, {}, {"Exit", command::exit}},
-                     {.activated = [&mainWindow] { mainWindow.bringToFront(); },
-                      .selected = [&mainWindow](unsigned chosen) { mainWindow.send(msg::command, chosen); }});
+    m_icon = makeTrayIcon(
+        *icon, programTitle, {{"Config Tarnix Keyboard", command::showWindow}, {}, {"Exit", command::exit}},
+        {.activated = [&mainWindow] { mainWindow.send(msg::trayNotify, CDlgBase::iconId, trayDoubleClick); },
+         .selected = [&mainWindow](unsigned chosen) { mainWindow.send(msg::command, chosen); }});
 }
 
 void TrayPresence::OnDeviceEvent(WParam code) {

@@ -49,7 +49,7 @@ DeviceLink::DeviceLink(const Surroundings& surroundings)
 
 DeviceLink::~DeviceLink() {
     close();
-    m_hid.onChange([](HidChange) {});
+    m_hid.onChange({});
     *m_self = nullptr;
 }
 

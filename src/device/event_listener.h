@@ -26,10 +26,11 @@ class EventListener {
     EventListener(const EventListener&) = delete;
     EventListener& operator=(const EventListener&) = delete;
 
-    /// Starts to read the interface. If a listener runs already it goes on, and should it turn out to be
-    /// dying of the unplugging that led here, the interface is opened when it has ended.
+    /// Starts to read the interface. A listener that reads it already goes on; as it may be dying of the
+    /// unplugging that led here, the interface is opened once more should it end by itself. A listener of
+    /// another interface is stopped first.
     void start(const HidInterface& interface);
-    /// Ends the thread and waits for its end; reports that it has read still reach the handler.
+    /// Ends the thread and waits for its end; reports that wait for the handler still reach it.
     void stop();
     /// Stops for good: no report reaches the handler any more.
     void close();

@@ -18,11 +18,17 @@ static_assert(lightingFields.size() == 2 * (lightingReport::length - lightingRep
 } // namespace
 
 SelectReport packSelection(int profile, int slot) {
-    return {selectReport::id, wireProfile(profile), static_cast<std::uint8_t>(slot)};
+    SelectReport report{selectReport::id};
+    report[selectReport::profileByte] = wireProfile(profile);
+    report[selectReport::slotByte] = static_cast<std::uint8_t>(slot);
+    return report;
 }
 
 ActiveProfileReport packActiveProfile(int profile) {
-    return {activeProfileReport::id, activeProfileReport::command, static_cast<std::uint8_t>(profile)};
+    ActiveProfileReport report{activeProfileReport::id};
+    report[activeProfileReport::commandByte] = activeProfileReport::command;
+    report[activeProfileReport::profileByte] = static_cast<std::uint8_t>(profile);
+    return report;
 }
 
 int unpackActiveProfile(std::span<const std::uint8_t, activeProfileReport::length> report) {
@@ -30,7 +36,9 @@ int unpackActiveProfile(std::span<const std::uint8_t, activeProfileReport::lengt
 }
 
 LightingReport packLighting(const ProfileRecord& record, int profile) {
-    LightingReport report{lightingReport::id, lightingReport::length, wireProfile(profile)};
+    LightingReport report{lightingReport::id};
+    report[lightingReport::lengthByte] = lightingReport::length;
+    report[lightingReport::profileByte] = wireProfile(profile);
     const auto nibble = [&](std::size_t field) {
         return toNumber(record.Settings[lightingFields[field]].Value) & 0x0F;
     };
@@ -48,7 +56,9 @@ void unpackLighting(ProfileRecord& record, std::span<const std::uint8_t, lightin
 }
 
 KeyCodeReport packKeyCodes(const ProfileRecord& record, int profile) {
-    KeyCodeReport report{keyCodeReport::id, keyCodeReport::contentLength, wireProfile(profile)};
+    KeyCodeReport report{keyCodeReport::id};
+    report[keyCodeReport::lengthByte] = keyCodeReport::contentLength;
+    report[keyCodeReport::profileByte] = wireProfile(profile);
     auto out =
         std::copy(record.KeyCodes.begin(), record.KeyCodes.end(), report.begin() + keyCodeReport::keyCodes);
     for (const GKeySlot& slot : record.GKeys)

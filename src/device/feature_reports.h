@@ -6,12 +6,12 @@
 //   4   set        3       04 profile slot: what the next get of report 6, 7 or 8 is about
 //   5   get        3       byte 2, low three bits: the active profile
 //   5   set        3       05 03 profile: makes it active; 7 says that the program ends
-//   6   set        192     06 B8 profile 00 00 00 00 00, then 160 key codes, then three bytes for each of six
-//   G-keys,
-//                          then zeros; a get answers the same from byte 8 on
-//   7   set        8       07 08 profile 00, then eight fields of four bits, high one first: brightness,
-//   mode; speed,
-//                          area 1; area 2, area 3; area 4, area 5; a get answers the same from byte 4 on
+//   6   set        192     06 B8 profile 00 00 00 00 00, then 160 key codes, then three bytes
+//                          for each of six G-keys, then zeros;
+//                          a get answers the same from byte 8 on
+//   7   set        8       07 08 profile 00, then eight fields of four bits, high one first:
+//                          brightness, mode; speed, area 1; area 2, area 3; area 4, area 5;
+//                          a get answers the same from byte 4 on
 //
 // Example: profile 2 (index 1) in "RGB Breath" (2) at full brightness (4), normal speed (1), all areas in
 // colour 4:

@@ -1,6 +1,5 @@
 // The macro library file, config\MacroLibraryFile.mlf below the program folder, in its two forms, and macro
-// key files
-// (*.mkf), which hold one macro without its name.
+// key files (*.mkf), which hold one macro without its name.
 //
 //     [MacroLibrary]                           [MacroKey]
 //     MacroSetNum=1                            1 MacroKeyLoopEnable=1

@@ -37,9 +37,13 @@ MacroRecorder::Answer MacroRecorder::record(MacroKey* macro, std::uintptr_t key,
     const bool delayed = recordDelays && macro->actionCount != 0;
     const Answer answer{
         true, delayed ? appendDelayedKey(*macro, delaySinceLast(stamp), action) : appendKey(*macro, action)};
-    m_lastKey = virtualKey;
-    m_lastTime = stamp;
+    if (answer.fullNotice.empty()) passOver(key, time);
     return answer;
+}
+
+void MacroRecorder::passOver(std::uintptr_t key, std::intptr_t time) {
+    m_lastKey = static_cast<std::uint8_t>(key);
+    m_lastTime = static_cast<std::uint32_t>(time);
 }
 
 /// The counter has 31 bits and may have run over since.

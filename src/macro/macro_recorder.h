@@ -25,7 +25,8 @@ class MacroRecorder {
         /// False for a message that says nothing new: a mouse button, a repeated press, no macro. Else the
         /// macro counts as changed, full or not.
         bool taken = false;
-        /// Not empty when the macro has no room for the event, which was then left out: the notice to show.
+        /// Not empty when the macro has no room for the event, which was then left out: the notice to show,
+        /// and to pass the event over after it.
         std::string_view fullNotice;
     };
 
@@ -36,6 +37,9 @@ class MacroRecorder {
     /// One message of the hook (see CKeyboardHook): virtual-key code in the low byte of `key`, milliseconds
     /// in bits 0 to 30 of `time`, bit 31 set for a release. `macro` may be none.
     Answer record(MacroKey* macro, std::uintptr_t key, std::intptr_t time, bool recordDelays);
+    /// Later delays and repeats count from this message, which was refused. While its notice is open they
+    /// count from the last one that was recorded, so that the release of a refused key finds no room either.
+    void passOver(std::uintptr_t key, std::intptr_t time);
 
   private:
     std::uint32_t delaySinceLast(std::uint32_t time) const;

@@ -52,7 +52,8 @@ class Hid {
     /// Opens for reading and writing, shared; none on failure.
     virtual std::unique_ptr<HidDevice> open(const std::string& path) = 0;
     /// Calls back on the main thread when HID interfaces arrive or leave. Nodes that come or go within 250 ms
-    /// of each other are one notice; a burst with both is a removal, then an arrival. One callback at a time.
+    /// of each other are one notice; a burst with both is a removal, then an arrival. One callback at a time;
+    /// an empty one ends it.
     virtual void onChange(std::function<void(HidChange)> callback) = 0;
 };
 

@@ -14,8 +14,7 @@ namespace tarnix {
 class Window;
 
 /// An open or save dialog. `filter` is text and pattern with a bar between, e.g. "psf file(*.psf)|*.psf";
-/// "All files
-/// (*)" is offered after it.
+/// "All files (*)" is offered after it.
 struct FileDialog {
     std::string title;
     std::string filter;

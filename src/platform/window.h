@@ -61,7 +61,7 @@ class Window {
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
-    /// Makes the native window, hidden, at the given screen rectangle. False when the desktop refuses.
+    /// Makes the native window, hidden, at the given screen rectangle. False when it exists already.
     bool createWindow(const WindowTraits& traits, const Rect& screenRect);
     /// Ends the modal run, destroys the windows that it owns, calls OnDestroy and takes the native window
     /// away; nothing without one. Safe in the window's own handlers.
@@ -77,7 +77,6 @@ class Window {
     /// The pointer in client coordinates; may lie outside the window.
     Point cursorPosition() const;
     void moveTo(Point screen);
-    void resizeTo(Size size);
     /// Over its owner, else over the main window, else in the middle of the screen.
     void centre();
     /// The part of the screen that holds no panels (of the screen with the window, else the first).

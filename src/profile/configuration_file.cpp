@@ -6,8 +6,6 @@ namespace tarnix {
 
 namespace {
 
-constexpr std::string_view header = "[Setting]";
-
 std::string configurationPath(const std::string& programFolder) {
     return programFolder + "config\\config.ini";
 }
@@ -16,13 +14,12 @@ std::string configurationPath(const std::string& programFolder) {
 
 std::optional<FileError> parseConfiguration(std::string_view text, ConfigPairs& pairs) {
     LineReader lines(text);
-    if (lines.next() != header) return lines.refuse("the first line is not [Setting]");
+    if (lines.next() != settingHeader) return lines.refuse(noSettingHeader);
     for (SettingPair& pair : pairs) {
         const auto line = lines.next();
         if (!line) return std::nullopt;
         const auto parts = splitAtEquals(*line);
-        if (!parts || parts->key.empty() || parts->value.empty())
-            return lines.refuse("not of the form key=value");
+        if (!parts || parts->key.empty() || parts->value.empty()) return lines.refuse(noKeyValue);
         pair = {std::string(parts->key), std::string(parts->value)};
     }
     if (lines.next()) return lines.refuse("more lines than the six settings");
@@ -31,7 +28,7 @@ std::optional<FileError> parseConfiguration(std::string_view text, ConfigPairs& 
 
 std::string formatConfiguration(const ConfigPairs& pairs) {
     std::string text;
-    appendLine(text, header);
+    appendLine(text, settingHeader);
     for (const SettingPair& pair : pairs)
         appendLine(text, pair.Key + '=' + pair.Value);
     return text;

@@ -6,9 +6,7 @@ namespace tarnix {
 
 namespace {
 
-constexpr std::string_view header = "[Setting]";
 constexpr std::string_view missingLine = "the file ends too early";
-constexpr std::string_view noKeyValue = "not of the form key=value";
 constexpr std::size_t keyCodeDigits = std::size_t{2} * keyPositionCount;
 
 std::optional<FileError> readSettings(LineReader& lines, ProfileRecord& record) {
@@ -72,7 +70,7 @@ void appendGKey(std::string& text, const std::string& key, const GKeySlot& slot)
 
 std::optional<FileError> parseProfile(std::string_view text, ProfileRecord& record) {
     LineReader lines(text);
-    if (lines.next() != header) return lines.refuse("the first line is not [Setting]");
+    if (lines.next() != settingHeader) return lines.refuse(noSettingHeader);
     if (auto error = readSettings(lines, record)) return error;
     if (auto error = readKeyCodes(lines, record)) return error;
     return readGKeys(lines, record);
@@ -80,7 +78,7 @@ std::optional<FileError> parseProfile(std::string_view text, ProfileRecord& reco
 
 std::string formatProfile(const ProfileRecord& record) {
     std::string text;
-    appendLine(text, header);
+    appendLine(text, settingHeader);
     for (const SettingPair& pair : record.Settings)
         appendLine(text, pair.Key + '=' + pair.Value);
 

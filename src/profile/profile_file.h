@@ -1,5 +1,5 @@
-// Profile files (*.psf): one profile record as text. The path of record n's file is the configuration's slot
-// n.
+// Profile files (*.psf): one profile record as text. Record n's file is at the path of the configuration's
+// slot n.
 //
 //     [Setting]
 //     ProfileName=Default1                 (nine settings)

@@ -63,6 +63,13 @@ int GetKeyButtonPosition(int buttonIndex) {
     return position ? *position : fallbackKeyPosition;
 }
 
+GKeySlot standardGKey(int slot) {
+    return {"CTRL+" + toText(slot + 1),
+            {},
+            keyAssignment(FunctionType::KeyCombination, ctrlBit,
+                          static_cast<std::uint8_t>(keyCodeOfDigit1 + slot))};
+}
+
 void resetProfileRecord(ProfileRecord& record, int index) {
     for (std::size_t i = 0; i < defaultSettings.size(); ++i) {
         record.Settings[i] = {std::string(defaultSettings[i].first), std::string(defaultSettings[i].second)};
@@ -70,10 +77,9 @@ void resetProfileRecord(ProfileRecord& record, int index) {
     record.Settings[settingProfileName].Value = "Default" + toText(index + 1);
     record.KeyCodes = DefaultKeyCodes;
     for (int slot = 0; slot < gKeyCount; ++slot) {
-        GKeySlot& gKey = record.GKeys[slot];
-        gKey.Name = "CTRL+" + toText(slot + 1);
-        gKey.Value = keyAssignment(FunctionType::KeyCombination, ctrlBit,
-                                   static_cast<std::uint8_t>(keyCodeOfDigit1 + slot));
+        const GKeySlot standard = standardGKey(slot);
+        record.GKeys[slot].Name = standard.Name;
+        record.GKeys[slot].Value = standard.Value;
     }
 }
 

@@ -73,6 +73,9 @@ using ConfigPairs = std::array<SettingPair, configPairCount>;
 /// buttons share position 85.
 int GetKeyButtonPosition(int buttonIndex);
 
+/// A G-key slot as the keyboard leaves the factory: Ctrl with the digit of its place.
+GKeySlot standardGKey(int slot);
+
 /// The defaults of record `index`: settings, G-key names and values, key codes. The slots' URLs stay.
 void resetProfileRecord(ProfileRecord& record, int index);
 

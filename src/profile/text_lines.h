@@ -16,6 +16,11 @@ struct FileError {
     bool operator==(const FileError&) const = default;
 };
 
+/// The first line of profile and configuration files, and what both refuse alike.
+inline constexpr std::string_view settingHeader = "[Setting]";
+inline constexpr std::string_view noSettingHeader = "the first line is not [Setting]";
+inline constexpr std::string_view noKeyValue = "not of the form key=value";
+
 /// Takes lines off a text. A line ends with LF or CR LF, which are no part of it; the last one may lack its
 /// end.
 class LineReader {

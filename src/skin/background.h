@@ -17,11 +17,9 @@ class Background {
     /// The bitmap must outlive the background.
     void load(const Image& bitmap, Size window);
 
-    Size size() const { return m_size; }
     /// The bitmap's average colour. It is worked out when it is first needed, which a bitmap that covers the
     /// window does not.
     Color color() const;
-    int fadeWidth() const { return m_fade; }
     /// Paints the part of the window within `dirty`.
     void draw(Canvas& canvas, const Rect& dirty) const;
 

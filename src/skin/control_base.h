@@ -55,6 +55,8 @@ class CControlBase {
     virtual bool OnLButtonUp(unsigned flags, Point at);
     virtual bool OnLButtonDblClk(unsigned flags, Point at);
     virtual bool IsReady() const;
+    /// Gives up what the user types into the control. False when that is nothing.
+    virtual bool OnEscape() { return false; }
 
     /// Half-open: the right and bottom edges are outside.
     bool hit(Point at) const { return m_rect.contains(at); }

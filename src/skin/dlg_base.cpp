@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "skin/lists.h"
-
 namespace tarnix {
 
 namespace {
@@ -105,21 +103,16 @@ bool CDlgBase::OnKey(const KeyPress& key) {
         OnEnter();
     else if (m_popups.any())
         m_popups.dismiss();
-    else if (!closeNameField())
+    else if (!giveUpTyping())
         OnCancel();
     return true;
 }
 
-/// Closes the name field that a list of the window has open. False when there is none.
-bool CDlgBase::closeNameField() {
-    bool closed = false;
-    m_controls.forEach([&closed](CControlBase& control) {
-        auto* list = dynamic_cast<CEditShowList*>(&control);
-        if (!list || !list->isEditing()) return;
-        list->DropNewName();
-        closed = true;
-    });
-    return closed;
+/// False when no control had begun anything.
+bool CDlgBase::giveUpTyping() {
+    bool gaveUp = false;
+    m_controls.forEach([&gaveUp](CControlBase& control) { gaveUp |= control.OnEscape(); });
+    return gaveUp;
 }
 
 void CDlgBase::OnCancel() {

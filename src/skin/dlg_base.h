@@ -26,10 +26,10 @@ class CDlgBase : public Window {
     explicit CDlgBase(WindowTraits traits, Size size = mainSize);
     ~CDlgBase() override;
 
-    /// Makes the window, initialises it while it is hidden, and runs it modally. IDCANCEL when there is no
-    /// window.
+    /// Makes the window, initialises it while it is hidden, and runs it modally. IDCANCEL when it
+    /// exists already.
     int DoModal();
-    /// Makes and initialises the window, hidden. False when the desktop refuses it.
+    /// Makes and initialises the window, hidden. False when it exists already.
     bool Create();
 
     /// The first control with the identifier, in the order of the groups; none if there is none.
@@ -94,7 +94,7 @@ class CDlgBase : public Window {
     MessageMap m_messages;
 
   private:
-    bool closeNameField();
+    bool giveUpTyping();
 
     WindowTraits m_traits;
     Size m_size;

@@ -89,6 +89,12 @@ void CEditShowList::DropNewName() {
     notifyOwner(NOTIFY_NAME_DROPPED);
 }
 
+bool CEditShowList::OnEscape() {
+    if (!isEditing()) return false;
+    DropNewName();
+    return true;
+}
+
 std::string CEditShowList::editorText() const {
     return m_editor ? m_editor->text() : std::string();
 }

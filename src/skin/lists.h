@@ -51,14 +51,13 @@ class CEditShowList : public CRowList {
     /// exist and nothing opens.
     int BeginNewName();
     bool isEditing() const { return m_editor != nullptr; }
-    /// The open field; none without one.
-    EditField* editor() const { return m_editor.get(); }
     /// What stands in the field; empty without one.
     std::string editorText() const;
     /// Closes the field without taking its text.
     void CloseEditor() { m_editor.reset(); }
     /// The same at the user's wish, which the owner hears of.
     void DropNewName();
+    bool OnEscape() override;
 
     int currentSet() const { return m_nSet; }
     int rowCount() const override;

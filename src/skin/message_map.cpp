@@ -1,6 +1,5 @@
 #include "skin/message_map.h"
 
-#include <algorithm>
 #include <set>
 
 #include "skin/control_base.h"
@@ -16,10 +15,6 @@ LResult MessageMap::dispatch(Message message, WParam w, LParam l) const {
     for (const Row& row : m_rows)
         if (row.covers(message) && (!row.clickOnly || l == NOTIFY_CLICK)) row.handler(w, l);
     return 0;
-}
-
-bool MessageMap::handles(Message message) const {
-    return std::any_of(m_rows.begin(), m_rows.end(), [=](const Row& row) { return row.covers(message); });
 }
 
 std::vector<Message> MessageMap::registered() const {

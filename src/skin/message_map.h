@@ -37,7 +37,6 @@ class MessageMap {
 
     /// Runs what is registered for the message. Answers 0, whether anything was or not.
     LResult dispatch(Message message, WParam w, LParam l) const;
-    bool handles(Message message) const;
     /// Every number that a row names, each once, ascending.
     std::vector<Message> registered() const;
 

@@ -57,13 +57,14 @@ void MouseRouter::press(unsigned flags, Point at) {
     if (!hotAt(at)) move(flags, at);
     dropFocus();
     CControlBase* hot = hotAt(at);
-    if (!hot || m_captured) return startMove();
+    if (!hot) return startMove();
 
     m_buttonDown = true;
     m_focus = hot;
     m_pressed = hot->GetRect();
     if (hot->OnLButtonDown(flags, at)) repaint(hot);
     if (!m_buttonDown) return; // the handler ran a dialog, and the release was cancelled
+    if (m_captured) return startMove();
     m_captured = m_window.captureMouse();
     if (!m_captured) release(flags, outside);
 }

@@ -19,12 +19,8 @@ class MouseRouter {
 
     /// The control under the pointer; none if there is none.
     CControlBase* hot() const { return m_hot; }
-    /// The control on which the button last went down; none if there is none.
-    CControlBase* focus() const { return m_focus; }
     /// Takes the focus from the focus control unless that is the hot control.
     void dropFocus();
-    /// The last point handed to the controls; (-1, -1) while the pointer is known to be outside.
-    Point lastPoint() const { return m_last; }
 
   private:
     void repaint(const CControlBase* control);
@@ -46,7 +42,7 @@ class MouseRouter {
     bool m_buttonDown = false;
     bool m_captured = false;
     Rect m_pressed = noRect; ///< of the control on which the last press or double-click landed
-    Point m_last = outside;
+    Point m_last = outside;  ///< handed to the controls; outside while the pointer is known to be there
 };
 
 } // namespace tarnix

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <iterator>
+#include <memory>
 #include <string>
 
 #include "platform/window.h"
@@ -81,6 +82,12 @@ constexpr Message deactivationMessage(unsigned kind) {
     constexpr Message messages[] = {1029, 1032, 1042, 1045, 1047, 1055, 1057, 1061, 1064, 1069, 1072};
     if (kind >= 100) return 1050;
     return kind < std::size(messages) ? messages[kind] : 0;
+}
+
+/// A popup of the given class, for tables.
+template <class Popup>
+std::unique_ptr<CWndPopup> makePopup() {
+    return std::make_unique<Popup>();
 }
 
 } // namespace tarnix

@@ -10,8 +10,8 @@ class DesktopPresence {
   public:
     virtual ~DesktopPresence() = default;
 
-    /// Adds the icon; from now on its menu and its activation send msg::command to the window, and the
-    /// on-screen display counts down on the window's timer.
+    /// Adds the icon and the on-screen display. From now on the icon's menu sends msg::command and its
+    /// activation msg::trayNotify to the window, and the display counts down on the window's timer.
     virtual void AddTrayIcon(Window& mainWindow) = 0;
     /// Takes the icon away; nothing without one.
     virtual void RemoveTrayIcon() = 0;

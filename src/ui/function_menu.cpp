@@ -12,7 +12,7 @@ namespace {
 
 template <class Popup>
 std::unique_ptr<CWndPopup> make(MacroLibrary&) {
-    return std::make_unique<Popup>();
+    return makePopup<Popup>();
 }
 
 std::unique_ptr<CWndPopup> makeMacroList(MacroLibrary& library) {
@@ -171,7 +171,7 @@ void FunctionMenu::closeMacroSetsBesideLibrary() {
 }
 
 void FunctionMenu::onMacroSetClosing(LParam kind) {
-    if (kind < firstMacroSetKind || kind - firstMacroSetKind >= static_cast<LParam>(macroSetCount())) return;
+    if (kind < firstMacroSetKind) return;
     const auto row = static_cast<unsigned>(kind - firstMacroSetKind);
     PopupPlaces& popups = m_context.window.popups();
     if (!popups.macroSet(row) || pointerOver(PopupPlace::MacroLibrary)) return;

@@ -18,10 +18,6 @@ int macroRow(unsigned fieldId) {
     return PendingWrites::firstMacroRow + (second ? static_cast<int>(fieldId - id::gKeyField1) : 0);
 }
 
-KeyAssignment assignment(const SelectionRecord& record) {
-    return {record.bytes[0], record.bytes[1], record.bytes[2]};
-}
-
 } // namespace
 
 void GKeyPage::build(Point origin) {
@@ -63,7 +59,7 @@ void GKeyPage::ApplyCategoryChoice(WParam fieldId, LParam lParam) {
     field->m_bOpen = false;
     field->repaint();
     m_menu.closeCategory();
-    switch (functionType(assignment(*record))) {
+    switch (functionType(record->value())) {
         case FunctionType::KeyCombination:
             setDefaultFunction(*field);
             break;
@@ -75,15 +71,11 @@ void GKeyPage::ApplyCategoryChoice(WParam fieldId, LParam lParam) {
     }
 }
 
-/// Ctrl with the digit of the field's place.
 void GKeyPage::setDefaultFunction(CComboButton& field) {
-    constexpr std::uint8_t ctrl = 0x01;
-    constexpr std::uint8_t digit1 = 0x1E; // HID usage; the other digits follow
     const bool isGKey = field.m_nID >= id::gKeyField1 && field.m_nID <= id::gKeyField5;
-    const auto index = static_cast<std::uint8_t>(isGKey ? field.m_nID - id::gKeyField1 : 0);
-    const auto type = static_cast<std::uint8_t>(FunctionType::KeyCombination);
-    store(field, field.m_nID,
-          {"CTRL+" + std::to_string(index + 1), {type, ctrl, static_cast<std::uint8_t>(digit1 + index)}});
+    const GKeySlot standard = standardGKey(isGKey ? static_cast<int>(field.m_nID - id::gKeyField1) : 0);
+    const auto& [type, modifiers, key] = standard.Value;
+    store(field, field.m_nID, {standard.Name, {type, modifiers, key}});
 }
 
 void GKeyPage::ApplySubChoice(Message answer, WParam fieldId, LParam lParam) {
@@ -160,8 +152,7 @@ void GKeyPage::ApplyQuickLaunch(WParam path, LParam lParam) {
 void GKeyPage::store(CComboButton& field, unsigned fieldId, const SelectionRecord& record,
                      const std::string& url) {
     field.SetValueText(record.text);
-    field.repaint();
-    m_context.store.StoreGKey(fieldId, record.text, assignment(record), url);
+    m_context.store.StoreGKey(fieldId, record.text, record.value(), url);
 }
 
 } // namespace tarnix

@@ -86,10 +86,6 @@ void CKeyMapSettingDlg::OnDestroy() {
     CFormDlg::OnDestroy();
 }
 
-bool CKeyMapSettingDlg::OnKey(const KeyPress&) {
-    return true;
-}
-
 /// A press and its release say the same. The selection stays where it is.
 void CKeyMapSettingDlg::captureKey(std::uint8_t virtualKey) {
     if (virtualKey == 0) return;

@@ -29,7 +29,6 @@ class CKeyMapSettingDlg : public CFormDlg {
 
     CKeyMapSettingDlg(KeyToMap key, Window* owner);
 
-    bool OnKey(const KeyPress& key) override;
     void OnDestroy() override;
 
   protected:

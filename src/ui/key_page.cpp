@@ -6,6 +6,10 @@
 
 namespace tarnix {
 
+// The store takes the window's own numbers.
+static_assert(id::firstKeyCap == firstKeyButtonId && id::lastKeyCap == firstKeyButtonId + keyButtonCount - 1);
+static_assert(id::gKeyField1 == firstGKeyFieldId && id::gKeyField5 == firstGKeyFieldId + gKeyFieldCount - 1);
+
 void KeyPage::build(Point origin) {
     CDlgBase& window = m_context.window;
     window.addControls(group::keyPage, areaMarkers, origin);

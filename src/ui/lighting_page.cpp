@@ -8,15 +8,6 @@
 
 namespace tarnix {
 
-namespace {
-
-template <class Popup>
-std::unique_ptr<CWndPopup> make() {
-    return std::make_unique<Popup>();
-}
-
-} // namespace
-
 /// What sets one of the three settings apart from the others.
 struct LightingPage::Setting {
     unsigned field;
@@ -33,12 +24,12 @@ struct LightingPage::Setting {
 
 const LightingPage::Setting LightingPage::settings[] = {
     {id::lightModeField, settingLightMode, LightModeName, &ProfileStore::SetLightMode, PopupPlace::LightMode,
-     9, make<CLightModePopup>, msg::openLightMode, msg::lightModeClosing, msg::lightModeChosen},
+     9, makePopup<CLightModePopup>, msg::openLightMode, msg::lightModeClosing, msg::lightModeChosen},
     {id::brightnessField, settingLightBrightness, BrightnessName, &ProfileStore::SetLightBrightness,
-     PopupPlace::LightBrightness, 8, make<CLightBrightnessPopup>, msg::openBrightness, msg::brightnessClosing,
-     msg::brightnessChosen},
+     PopupPlace::LightBrightness, 8, makePopup<CLightBrightnessPopup>, msg::openBrightness,
+     msg::brightnessClosing, msg::brightnessChosen},
     {id::speedField, settingLightSpeed, SpeedName, &ProfileStore::SetLightSpeed, PopupPlace::LightSpeed, 10,
-     make<CLightSpeedPopup>, msg::openSpeed, msg::speedClosing, msg::speedChosen},
+     makePopup<CLightSpeedPopup>, msg::openSpeed, msg::speedClosing, msg::speedChosen},
 };
 
 void LightingPage::build(Point origin) {
@@ -85,9 +76,8 @@ void LightingPage::ApplyLight(const Setting& setting, WParam fieldId, LParam lPa
     CComboButton* field = m_context.field(fieldId);
     const SelectionRecord* record = receivedSelection(lParam);
     if (!field || !record) return;
-    field->SetValueText(record->text);
     field->m_bOpen = false;
-    field->repaint();
+    field->SetValueText(record->text);
     const int value = record->bytes[0];
     m_context.window.popups().close(setting.place);
     if (setting.pair == settingLightMode) m_nLightMode = value;

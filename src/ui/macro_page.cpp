@@ -64,7 +64,6 @@ void MacroPage::build(Point origin) {
     auto actionList = std::make_unique<CImageShowList>(
         window, id::actionList, actionListRect.moved(origin.x, origin.y), m_context.macros);
     actionList->LoadImages();
-    actionList->ShowMacro(0, 0);
     auto macroList = std::make_unique<CEditShowList>(
         window, id::macroList, macroListRect.moved(origin.x, origin.y), m_context.macros);
     macroList->SelectSet(0);
@@ -138,6 +137,10 @@ void MacroPage::onRecordingEnded() {
     bool& changed = m_context.link.pending().m_bMacroLibraryChanged;
     if (changed) save();
     changed = false;
+}
+
+void MacroPage::enableFields(bool enabled) {
+    if (m_pLoopEdit) m_pLoopEdit->setEnabled(enabled);
 }
 
 void MacroPage::SetLoopEnable() {

@@ -1,5 +1,5 @@
-// The macro page: edits the main library, and saves it after every change of its structure. Loop settings and
-// recordings are saved by the next OK or Apply.
+// The macro page: edits the main library, and saves it after every change of its structure and after a
+// recording. Loop settings are saved with the next recording, OK or Apply.
 #pragma once
 
 #include <memory>
@@ -32,6 +32,7 @@ class MacroPage : public MacroEditor {
     void onShown(MacroKey& macro) override;
     void onRecorded() override { markChanged(); }
     void onRecordingEnded() override;
+    void enableFields(bool enabled) override;
 
   private:
     void SetLoopEnable();

@@ -85,7 +85,7 @@ inline constexpr unsigned loadProfileButton = 2070;  ///< loads the profile from
 namespace msg {
 
 inline constexpr unsigned command = 0x111;           ///< [command, -] from the notification-area menu
-inline constexpr unsigned trayNotify = 0x420;        ///< [icon, Win32 mouse message] from the icon itself
+inline constexpr unsigned trayNotify = 0x420;        ///< [icon, Win32 mouse message] the icon was activated
 inline constexpr unsigned categoryChosen = 0x403;    ///< [field or 0, record] a row of the function menu
 inline constexpr unsigned openFunctionMenu = 0x404;  ///< [field, notification] a G-key field was clicked
 inline constexpr unsigned categoryClosing = 0x405;   ///< [-, 0] the function menu lost activation
@@ -127,6 +127,10 @@ inline constexpr unsigned speedClosing = 0x430;     ///< [-, 10]
 inline constexpr unsigned speedChosen = 0x431;      ///< [field, record]
 
 } // namespace msg
+
+/// The second word of msg::trayNotify on which the window comes to the front: the Win32 message
+/// WM_LBUTTONDBLCLK.
+inline constexpr unsigned trayDoubleClick = 0x0203;
 
 /// Commands, the first word of msg::command.
 namespace command {

@@ -25,7 +25,6 @@ constexpr unsigned firstRightHoverPicture = 219;
 constexpr Size minimisedIcon{32, 32};
 
 /// The notification area's report of a double-click, a Win32 mouse message.
-constexpr LParam trayDoubleClick = 0x0203;
 
 /// Copies a picture's top left corner to `target`, as far as both reach, within `dirty`.
 void copyPicture(Canvas& canvas, unsigned bitmap, const Rect& target, const Rect& dirty) {
@@ -81,6 +80,7 @@ void CPelmoraDlg::registerHandlers() {
     m_messages.on(msg::runMacroManager, [this](WParam, LParam set) { runMacroManager(set); });
     m_messages.on(msg::command, [this](WParam chosen, LParam) { onCommand(chosen); });
     m_messages.on(msg::trayNotify, [this](WParam icon, LParam what) { OnTrayNotify(icon, what); });
+    m_messages.on(msg::openFunctionMenu, [this](WParam, LParam code) { repaintHoverPictures(code); });
     m_messages.on(msg::deviceEvent,
                   [this](WParam code, LParam) { m_surroundings.presence.OnDeviceEvent(code); });
     m_profileCommands.registerHandlers(m_messages);
@@ -106,7 +106,6 @@ void CPelmoraDlg::registerPageTabs() {
         ShowPage(group::lightingPage);
         m_macroPage.showLoopField(false);
     });
-    m_messages.on(msg::openFunctionMenu, [this](WParam, LParam code) { repaintHoverPictures(code); });
 }
 
 // Start and end.

@@ -45,10 +45,6 @@ void CShortcutDlg::OnDestroy() {
     CFormDlg::OnDestroy();
 }
 
-bool CShortcutDlg::OnKey(const KeyPress&) {
-    return true;
-}
-
 void CShortcutDlg::captureKey(std::uint8_t virtualKey) {
     m_record.text = VirtualKeyName(virtualKey);
     m_record.bytes[2] = ToKeyCode(virtualKey);

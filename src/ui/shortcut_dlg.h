@@ -15,7 +15,6 @@ class CShortcutDlg : public CFormDlg {
   public:
     explicit CShortcutDlg(Window* owner);
 
-    bool OnKey(const KeyPress& key) override;
     void OnDestroy() override;
 
   protected:

@@ -1,5 +1,7 @@
 #include "ui/spare_controls.h"
 
+#include <algorithm>
+
 #include "profile/numbers.h"
 #include "skin/static_text.h"
 #include "ui/messages.h"
@@ -16,8 +18,8 @@ void SpareControls::registerHandlers(MessageMap& map) {
     map.onClick(id::areaButton, [this] { takeUpCurrentProfile(); });
     map.onClick(id::firstAreaColour, id::lastAreaColour, [this] { takeUpCurrentProfile(); });
     map.on(id::levelScroller, [this](WParam, LParam l) { setLevel(l); });
-    map.onClick(id::levelUp, [this] { setLevel(m_level + 1); });
-    map.onClick(id::levelDown, [this] { setLevel(m_level - 1); });
+    map.onClick(id::levelUp, [this] { setLevel(std::min(m_level + 1, maxLevel)); });
+    map.onClick(id::levelDown, [this] { setLevel(std::max(m_level - 1, 0)); });
     map.on(id::unusedButton, [] {});
 }
 

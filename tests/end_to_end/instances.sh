@@ -11,12 +11,15 @@ plain=$(picture CPelmoraDlg $f1)
 
 mkdir "$desktop/other"
 cp "$TARNIX_KEYBOARD" "$desktop/other/"
-"$desktop/other/tarnix-keyboard" &
-second=$!
-desktop_pids+=("$second")
-eventually xdotool search --onlyvisible --pid $second
-xdotool windowactivate --sync "$(xdotool search --onlyvisible --pid $second)" key Return
-ended $second
+for end in key signal; do
+    "$desktop/other/tarnix-keyboard" &
+    second=$!
+    desktop_pids+=("$second")
+    eventually xdotool search --onlyvisible --pid $second
+    xdotool windowactivate --sync "$(xdotool search --onlyvisible --pid $second)"
+    case $end in key) xdotool key Return ;; signal) kill $second ;; esac
+    ended $second
+done
 reports_are
 [ ! -e "$desktop/other/config" ] && [ "$(window CPelmoraDlg)" = "$first" ]
 

@@ -38,17 +38,21 @@ struct Player {
         if (what == "ms") {
             now += static_cast<std::uint32_t>(std::stoul(number));
         } else {
-            const std::uint32_t stamp = (now & 0x7FFFFFFF) | (what == "up" ? 0x80000000 : 0);
-            last = recorder.record(&macro, std::stoul(number, nullptr, 16), static_cast<std::int32_t>(stamp),
-                                   delays);
+            time = static_cast<std::int32_t>((now & 0x7FFFFFFF) | (what == "up" ? 0x80000000 : 0));
+            key = std::stoul(number, nullptr, 16);
+            last = recorder.record(&macro, key, time, delays);
         }
     }
+
+    void closeNotice() { recorder.passOver(key, time); }
 
     MacroRecorder recorder;
     bool delays;
     MacroKey macro;
     MacroRecorder::Answer last;
     std::uint32_t now = 1000;
+    std::uintptr_t key = 0;
+    std::int32_t time = 0;
 };
 
 TEST(MacroRecorder, RepeatsAndMouseButtonsAreLeftOut) {
@@ -91,6 +95,8 @@ TEST(MacroRecorder, FullMacroOnThePageSaysWhichWayItIsFull) {
     slow.play("41 down 2000 ms 41 up 2000 ms", 25);
     EXPECT_EQ(slow.macro.commandCount, 99);
     EXPECT_EQ(slow.play("41 down").last.fullNotice, "The number of action is full!");
+    EXPECT_EQ(slow.play("80 ms 42 up").last.fullNotice, "The number of action is full!") << "notice open";
+    slow.closeNotice();
     EXPECT_EQ(slow.play("5 ms 41 up").last.fullNotice, "") << "a short one still fits";
     EXPECT_EQ(slow.macro.commandCount, 100);
     EXPECT_EQ(slow.play("5 ms 41 down").last.fullNotice, "The Number of Action is full!");

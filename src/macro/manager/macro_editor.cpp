@@ -107,6 +107,7 @@ void MacroEditor::onScrollBar(CRowList& list, CVScrollBar& bar, WParam part, LPa
 void MacroEditor::onMouseWheel(int delta) {
     const bool overMacros = m_macros->m_nMouseState != mouseNormal;
     if (!overMacros && m_actions->m_nMouseState == mouseNormal) return;
+    if (overMacros && isNaming()) return; // the field keeps its place
     CRowList& list = overMacros ? static_cast<CRowList&>(*m_macros) : *m_actions;
     if (list.rowCount() <= list.m_nVisibleRows) return;
     scrollTo(list, overMacros ? *m_macroScrollBar : *m_actionScrollBar,
@@ -234,16 +235,19 @@ void MacroEditor::setRecordingLook(bool recording) {
     m_window.controls().forEach([&](CControlBase& control) { control.m_bDisabled = recording; });
     m_recordSwitch->m_bDisabled = false;
     m_recordDelays->m_bDisabled = false;
+    enableFields(!recording);
     m_window.invalidate();
 }
 
 void MacroEditor::record(WParam key, LParam time) {
     const auto answer = m_recorder.record(shownMacro(), key, time, m_recordDelays->m_bChecked);
     if (!answer.taken) return;
-    if (answer.fullNotice.empty())
+    if (answer.fullNotice.empty()) {
         showLastAction();
-    else if (isRecording())
-        endFullRecording(answer.fullNotice);
+    } else {
+        if (isRecording()) endFullRecording(answer.fullNotice);
+        m_recorder.passOver(key, time);
+    }
     m_actions->repaint();
     onRecorded();
 }

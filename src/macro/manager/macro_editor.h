@@ -108,6 +108,8 @@ class MacroEditor {
     /// An event was recorded or refused for want of room.
     virtual void onRecorded() {}
     virtual void onRecordingEnded() {}
+    /// The window's own text fields, which are no controls, follow the controls.
+    virtual void enableFields(bool) {}
 
   private:
     void onListNotification(LParam code);

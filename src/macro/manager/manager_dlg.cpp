@@ -30,7 +30,6 @@ constexpr int firstSetCode = 2;
 
 constexpr Size setListArea{400, 400};
 constexpr LParam setListKind = 5;
-constexpr const char* noSetText = "Disable";
 
 } // namespace
 
@@ -146,7 +145,7 @@ void CMacroManagerDlg::onSetListChosen(LParam code) {
 void CMacroManagerDlg::chooseMacroSet(int index) {
     const MacroSet* set = GetMacroSet(m_library, index);
     m_editor.macros().SelectSet(set ? index : -1);
-    control<CComboButton>(manager::setField)->SetValueText(set ? set->name : noSetText);
+    control<CComboButton>(manager::setField)->SetValueText(set ? set->name : manager::noSetText);
     m_editor.refreshAll();
 }
 
@@ -192,11 +191,6 @@ void CMacroManagerDlg::OnLButtonDown(unsigned flags, Point at) {
 void CMacroManagerDlg::OnMouseWheel(int delta, Point at) {
     m_editor.onMouseWheel(delta);
     CFormDlg::OnMouseWheel(delta, at);
-}
-
-/// Keys that are recorded do nothing else.
-bool CMacroManagerDlg::OnKey(const KeyPress& key) {
-    return m_editor.isRecording() || CFormDlg::OnKey(key);
 }
 
 void CMacroManagerDlg::OnDestroy() {

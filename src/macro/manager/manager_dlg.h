@@ -21,7 +21,6 @@ class CMacroManagerDlg : public CFormDlg {
 
     void OnLButtonDown(unsigned flags, Point at) override;
     void OnMouseWheel(int delta, Point at) override;
-    bool OnKey(const KeyPress& key) override;
     void OnDestroy() override;
 
   protected:

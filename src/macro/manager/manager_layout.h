@@ -18,7 +18,6 @@ inline constexpr unsigned newMacroButton = 2012;
 inline constexpr unsigned deleteMacroButton = 2013;
 inline constexpr unsigned setField = 2014;
 inline constexpr unsigned macroList = 2015;
-inline constexpr unsigned nameField = 2016; ///< the name editor of the macro list
 inline constexpr unsigned recordDelays = 2017;
 inline constexpr unsigned recordSwitch = 2018;
 inline constexpr unsigned actionList = 2020;
@@ -42,6 +41,9 @@ inline constexpr unsigned managerBackground = 181;
 inline constexpr unsigned managerPanel = 186;
 inline constexpr Rect managerPanelRect = Rect::at(220, 50, 481, 354);
 
+/// What the field says without a set.
+inline constexpr const char* noSetText = "Disable";
+
 /// The panel says "Record delays" right of that box, the background titles both columns.
 inline constexpr std::array<ControlRow, 10> managerControls{{
     regionButton(closeButton, Rect::at(693, 7, 15, 16), {154, 155, 0, 0, 15, 16}),
@@ -49,7 +51,7 @@ inline constexpr std::array<ControlRow, 10> managerControls{{
     regionButton(cancelButton, Rect::at(603, 422, 98, 33), {163, 163, 0, 0, 98, 33}),
     imageButton(newMacroButton, Rect::at(25, 371, 70, 33), 267),
     imageButton(deleteMacroButton, Rect::at(124, 371, 70, 33), 268),
-    comboButton(setField, Rect::at(25, 60, 169, 26), 266, openSetList, "Disable"),
+    comboButton(setField, Rect::at(25, 60, 169, 26), 266, openSetList, noSetText),
     checkButton(recordDelays, Rect::at(492, 151, 16, 16), 156),
     checkButton(recordSwitch, Rect::at(492, 98, 120, 29), 189),
     scrollBar(macroScrollBar, Rect::at(173, 98, 21, 260)),
@@ -63,7 +65,7 @@ inline constexpr Rect actionListRect = Rect::at(244, 98, 200, 280);
 inline constexpr Size companionSize{305, 215};
 inline constexpr unsigned addSetBackground = 185;
 inline constexpr unsigned deleteSetBackground = 184;
-/// Says that a macro set must be chosen first.
+/// Says that a macro set or macro must be chosen first.
 inline constexpr unsigned noteBackground = 195;
 /// Says that a macro must be chosen first.
 inline constexpr unsigned attentionBackground = 196;

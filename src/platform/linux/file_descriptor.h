@@ -17,12 +17,12 @@ class FileDescriptor {
         std::swap(m_descriptor, other.m_descriptor);
         return *this;
     }
-    ~FileDescriptor() {
-        if (m_descriptor >= 0) ::close(m_descriptor);
-    }
+    ~FileDescriptor() { close(); }
 
     int get() const { return m_descriptor; }
     explicit operator bool() const { return m_descriptor >= 0; }
+    /// False when what was written is not known to be kept.
+    bool close() { return m_descriptor < 0 || ::close(std::exchange(m_descriptor, -1)) == 0; }
 
   private:
     int m_descriptor = -1;

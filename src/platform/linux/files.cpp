@@ -11,27 +11,13 @@
 #include <system_error>
 #include <utility>
 
+#include "file_descriptor.h"
+
 namespace tarnix {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : m_number(number) {}
-    ~Descriptor() { close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int get() const { return m_number; }
-    bool valid() const { return m_number >= 0; }
-    /// False when what was written is not known to be kept.
-    bool close() { return m_number < 0 || ::close(std::exchange(m_number, -1)) == 0; }
-
-  private:
-    int m_number;
-};
 
 /// The path as it stands if there is such a file, else with the program's own separator read as the system's.
 /// Empty for a text that the system would cut short.
@@ -93,7 +79,7 @@ class TemporaryFile {
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
     bool fill(std::string_view text) {
-        return m_file.valid() && writeAll(m_file.get(), text) && ::fsync(m_file.get()) == 0;
+        return m_file && writeAll(m_file.get(), text) && ::fsync(m_file.get()) == 0;
     }
     /// Beyond what the process's mask lets through at creation. A file system without permissions is no
     /// failure.
@@ -144,13 +130,13 @@ class TemporaryFile {
 
     fs::path m_folder;
     fs::path m_path; ///< empty without a name
-    Descriptor m_file;
+    FileDescriptor m_file;
 };
 
 /// Makes renames in the folder last. File systems that cannot do so keep them in their own time.
 void flushFolder(const fs::path& folder) {
-    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (opened.valid()) ::fsync(opened.get());
+    const FileDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened) ::fsync(opened.get());
 }
 
 class SystemFiles : public Files {
@@ -158,10 +144,9 @@ class SystemFiles : public Files {
     std::optional<std::string> read(const std::string& path) override {
         const fs::path source = systemPath(path);
         // A pipe that takes its name must not be waited for.
-        const Descriptor file(::open(source.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+        const FileDescriptor file(::open(source.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
         struct stat status {};
-        if (!file.valid() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
-            return std::nullopt;
+        if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
         if (static_cast<std::uintmax_t>(status.st_size) > maxFileSize) return std::nullopt;
         return readAll(file.get(), static_cast<std::size_t>(status.st_size));
     }

@@ -130,7 +130,8 @@ class LinuxHid final : public Hid {
     }
 
     void onChange(std::function<void(HidChange)> callback) override {
-        m_monitor = std::make_unique<HotplugMonitor>(m_loop, std::move(callback));
+        m_monitor.reset();
+        if (callback) m_monitor = std::make_unique<HotplugMonitor>(m_loop, std::move(callback));
     }
 
   private:

@@ -101,7 +101,7 @@ struct Application::Native : QObject {
         g_endSignals = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
         endSignals = loop.watch(g_endSignals, [this] {
             std::uint64_t count = 0;
-            if (read(g_endSignals, &count, sizeof count) == sizeof count && quitRequest) quitRequest();
+            if (read(g_endSignals, &count, sizeof count) == sizeof count) requestQuit();
         });
         for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
             struct sigaction action {};
@@ -111,11 +111,17 @@ struct Application::Native : QObject {
         }
     }
 
+    void requestQuit() {
+        if (quitRequest) {
+            quitRequest();
+        } else {
+            endAllModalRuns();
+        }
+    }
+
     bool eventFilter(QObject* receiver, QEvent* event) override {
         if (event->type() != QEvent::Quit) return isShutOut(*receiver, *event);
-        EventGate::instance().enter([this] {
-            if (quitRequest) quitRequest();
-        });
+        EventGate::instance().enter([this] { requestQuit(); });
         return true;
     }
 

@@ -34,8 +34,8 @@ bool mayReplace(const QString& path, QFileDialog& chooser) {
 /// Sets up what both dialogs have in common.
 void prepare(QFileDialog& chooser, const FileDialog& dialog) {
     chooser.setNameFilters(nameFilters(dialog.filter));
-    chooser.setDefaultSuffix(decodeText(dialog.defaultExtension));
     chooser.setWindowRole(QStringLiteral("FileDialog"));
+    chooser.selectFile(decodeText(dialog.fileName));
 }
 
 } // namespace
@@ -56,8 +56,8 @@ QStringList nameFilters(const std::string& filter) {
 std::optional<std::string> chooseFileToOpen(const FileDialog& dialog, Window& owner) {
     QFileDialog chooser(owner.exists() ? owner.native()->widget : nullptr, decodeText(dialog.title),
                         QDir::currentPath());
-    prepare(chooser, dialog);
     chooser.setFileMode(QFileDialog::ExistingFile);
+    prepare(chooser, dialog);
     const QString path = run(chooser);
     if (path.isEmpty() || !QFileInfo::exists(path)) return std::nullopt;
     return path.toStdString();
@@ -66,12 +66,12 @@ std::optional<std::string> chooseFileToOpen(const FileDialog& dialog, Window& ow
 std::optional<std::string> chooseFileToSave(const FileDialog& dialog, Window& owner) {
     QFileDialog chooser(owner.exists() ? owner.native()->widget : nullptr, decodeText(dialog.title),
                         QDir::currentPath());
-    prepare(chooser, dialog);
     chooser.setAcceptMode(QFileDialog::AcceptSave);
     chooser.setFileMode(QFileDialog::AnyFile);
+    prepare(chooser, dialog);
+    chooser.setDefaultSuffix(decodeText(dialog.defaultExtension));
     // Asked here for the name with its extension: the desktop's own dialogs ask before it is appended.
     chooser.setOption(QFileDialog::DontConfirmOverwrite);
-    chooser.selectFile(decodeText(dialog.fileName));
     while (true) {
         const QString path = run(chooser);
         if (path.isEmpty()) return std::nullopt;

@@ -113,6 +113,12 @@ void endModalRun(Window& window, int result) {
     end(**found, result);
 }
 
+void endAllModalRuns() {
+    closeMenus();
+    for (auto run = g_runs.rbegin(); run != g_runs.rend(); ++run)
+        end(**run, IDCANCEL);
+}
+
 Window* modalWindow() {
     return g_runs.empty() ? nullptr : WindowRegistry::instance().find(g_runs.back()->window);
 }

@@ -16,6 +16,8 @@ int runModally(Window& window);
 /// Ends the window's run; the runs inside it, the toolkit's dialogs included, end first, innermost first, as
 /// cancelled. Before a run has begun it keeps it from beginning.
 void endModalRun(Window& window, int result);
+/// Ends all runs, innermost first, as cancelled.
+void endAllModalRuns();
 /// True from runModally until the run has been ended.
 bool runsModally(const Window& window);
 

@@ -123,10 +123,6 @@ void Window::moveTo(Point screen) {
     if (exists()) m_native->widget->move(toQt(screen));
 }
 
-void Window::resizeTo(Size size) {
-    if (exists()) m_native->widget->setFixedSize(size.width, size.height);
-}
-
 void Window::centre() {
     if (!exists()) return;
     const Window* behind = WindowRegistry::instance().behind(*this);

@@ -108,6 +108,8 @@ void WindowWidget::dispose() {
 }
 
 void WindowWidget::discard(QWidget& child) {
+    // Else the next text field would have the keyboard.
+    if (m_window && child.hasFocus()) setFocus();
     child.hide();
     child.disconnect();
     m_discarded.emplace_back(&child);

@@ -1,5 +1,7 @@
 #include "skin/selection.h"
 
+#include "skin/sent.h"
+
 namespace tarnix {
 
 LResult sendSelection(Window& to, Message message, WParam tag, const SelectionRecord& record) {

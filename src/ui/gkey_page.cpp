@@ -1,5 +1,6 @@
 #include "ui/gkey_page.h"
 
+#include "skin/sent.h"
 #include "ui/main_window_layout.h"
 #include "ui/quick_launch_dlg.h"
 #include "ui/shortcut_dlg.h"

@@ -1,6 +1,7 @@
 #include "ui/quick_launch_dlg.h"
 
 #include "profile/key_assignment.h"
+#include "skin/sent.h"
 #include "ui/dialog_layouts.h"
 #include "ui/messages.h"
 #include "ui/program_choice.h"

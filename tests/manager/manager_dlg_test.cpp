@@ -7,6 +7,7 @@
 #include "manager_bench.h"
 #include "skin/list_popup.h"
 #include "skin/selection.h"
+#include "skin/sent.h"
 #include "support/memory_files.h"
 
 namespace tarnix {

@@ -6,6 +6,7 @@
 #include "profile/vocabulary.h"
 #include "skin/list_popup.h"
 #include "skin/selection.h"
+#include "skin/sent.h"
 #include "support/ui_scenario.h"
 #include "ui/dialog_layouts.h"
 #include "ui/key_map_setting_dlg.h"

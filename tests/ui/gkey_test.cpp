@@ -2,6 +2,7 @@
 
 #include "main_window_bench.h"
 #include "skin/selection.h"
+#include "skin/sent.h"
 #include "ui/dialog_layouts.h"
 
 namespace tarnix {

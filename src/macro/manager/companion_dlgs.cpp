@@ -3,7 +3,7 @@
 #include <string>
 
 #include "macro_manager/manager_layout.h"
-#include "skin/selection.h"
+#include "skin/sent.h"
 
 namespace tarnix {
 

@@ -9,6 +9,7 @@
 #include "platform/resources.h"
 #include "skin/list_popup.h"
 #include "skin/selection.h"
+#include "skin/sent.h"
 
 namespace tarnix {
 

@@ -32,6 +32,10 @@ void COSDDialog::SetText(const std::string& text) {
     invalidate();
 }
 
+AccessibleFace COSDDialog::accessibleFace() const {
+    return {.role = AccessibleRole::Status, .name = m_text};
+}
+
 void COSDDialog::OnPaint(Canvas& canvas, const Rect&) {
     const Rect client = clientRect();
     canvas.fill(client, osdBackground);

@@ -13,6 +13,7 @@ class COSDDialog : public Window {
     explicit COSDDialog(const std::string& text);
 
     void SetText(const std::string& text);
+    AccessibleFace accessibleFace() const override;
 
   private:
     void OnPaint(Canvas& canvas, const Rect& dirty) override;

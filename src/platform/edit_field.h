@@ -12,7 +12,8 @@ struct EditStyle {
     bool numbersOnly = false; ///< typing takes digits alone; pasting takes any text
     Color text = 0x000000;
     Color background = 0xFFFFFF;
-    bool visible = true; ///< at first; a field that was never shown holds no native one
+    const char* caption = ""; ///< what assistive technology calls the field
+    bool visible = true;      ///< at first; a field that was never shown holds no native one
 };
 
 class EditField {

@@ -13,6 +13,7 @@
 #include <span>
 #include <string>
 
+#include "platform/accessible.h"
 #include "platform/canvas.h"
 
 namespace tarnix {
@@ -173,6 +174,12 @@ class Window {
     /// in its handlers.
     virtual void OnDestroy();
     virtual LResult OnMessage(Message message, WParam w, LParam l);
+
+    // For assistive technology; see platform/accessible.h.
+    /// What can be seen in the window now. Default: the program's title and nothing else.
+    virtual AccessibleFace accessibleFace() const;
+    /// The user has moved an item with a range, within that range.
+    virtual void OnAccessibleValue(unsigned number, int value);
 
   private:
     void releaseWindow();

@@ -374,6 +374,12 @@ std::string_view MultimediaFunctionName(int item) {
     return functionName(multimediaList, item);
 }
 
+std::string_view keyFunctionName(std::uint8_t keyCode) {
+    constexpr int firstMouseItem = 24; // of the popup, which has the mouse functions in the same order
+    if (keyCode < firstMouseCode || keyCode > lastMouseCode) return KeyCodeName(keyCode);
+    return MouseFunctionName(firstMouseItem + keyCode - firstMouseCode);
+}
+
 KeyAssignment webFunctionValue(int item) {
     return functionValue(webList, item);
 }

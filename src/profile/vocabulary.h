@@ -16,6 +16,12 @@ namespace tarnix {
 std::string_view VirtualKeyName(std::uint8_t virtualKey);
 std::string_view KeyCodeName(std::uint8_t keyCode);
 
+/// Key codes that stand for a mouse function: "Click" to "Fire".
+inline constexpr std::uint8_t firstMouseCode = 0xD0;
+inline constexpr std::uint8_t lastMouseCode = 0xD6;
+/// The name of a key code of either sort.
+std::string_view keyFunctionName(std::uint8_t keyCode);
+
 /// The two conversions are no inverses of each other. 0 where there is nothing to convert to.
 std::uint8_t ToKeyCode(std::uint8_t virtualKey);
 std::uint8_t ToVirtualKey(std::uint8_t keyCode);

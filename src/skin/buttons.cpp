@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "profile/vocabulary.h"
 #include "skin/fonts.h"
 
 namespace tarnix {
@@ -36,6 +37,10 @@ void CStripButton::Draw(Canvas& canvas, const Rect&) {
     m_strip.draw(canvas, frame(), m_rect);
 }
 
+void CStripButton::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::Button;
+}
+
 CImageButton::CImageButton(Window& owner, unsigned id, const Rect& rect, std::string text, bool visible,
                            bool disabled)
     : CStripButton(3, owner, id, rect, std::move(text), visible, disabled) {}
@@ -51,6 +56,11 @@ int CCheckButton::frame() const {
     return m_bChecked ? m_nMouseState + firstCheckedFrame : m_nMouseState;
 }
 
+void CCheckButton::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::CheckBox;
+    item.checked = m_bChecked;
+}
+
 void CCheckButton::clicked(Point) {
     m_bChecked = !m_bChecked;
     repaint(); // the second click of a double-click changes the mark but not the mouse state
@@ -63,6 +73,11 @@ CRadioButton::CRadioButton(Window& owner, unsigned id, const Rect& rect, std::st
 
 int CRadioButton::frame() const {
     return g_nRadioMask & radioBit(m_nID) ? mousePressed : m_nMouseState;
+}
+
+void CRadioButton::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::RadioButton;
+    item.checked = (g_nRadioMask & radioBit(m_nID)) != 0;
 }
 
 void CRadioButton::clicked(Point) {
@@ -90,10 +105,20 @@ int CComboButton::frame() const {
 
 void CComboButton::Draw(Canvas& canvas, const Rect& clip) {
     CStripButton::Draw(canvas, clip);
-    const std::string_view text = m_bDisable ? disabledFieldText : std::string_view(m_strValue);
-    if (text.empty()) return;
-    canvas.drawText(text, {m_rect.left + 4, m_rect.top + 1, m_rect.right, m_rect.bottom},
+    if (shownText().empty()) return;
+    canvas.drawText(shownText(), {m_rect.left + 4, m_rect.top + 1, m_rect.right, m_rect.bottom},
                     colored(valueFont, black));
+}
+
+std::string_view CComboButton::shownText() const {
+    return m_bDisable ? disabledFieldText : std::string_view(m_strValue);
+}
+
+void CComboButton::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::DropDown;
+    item.value = shownText();
+    item.expanded = m_bOpen;
+    item.disabled = item.disabled || m_bInactive;
 }
 
 void CComboButton::pressed(Point) {
@@ -119,6 +144,14 @@ void CKeyboardButton::SetCurrentCode(std::uint8_t code) {
     m_bRemapped = code != m_nDefaultCode;
 }
 
+void CKeyboardButton::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::Button;
+    item.name = "Key " + m_strKeyName;
+    if (!m_bRemapped) return;
+    const std::string_view function = keyFunctionName(m_nCurrentCode);
+    item.value = "assigned " + std::string(function.empty() ? "no function" : function) + ", changed";
+}
+
 int CKeyboardButton::frame() const {
     return m_bRemapped && m_nMouseState == mouseNormal ? mousePressed : m_nMouseState;
 }
@@ -139,6 +172,10 @@ bool CLinkButton::OnMouseMove(unsigned flags, Point at) {
     return changed;
 }
 
+void CLinkButton::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::Link;
+}
+
 CRegionButton::CRegionButton(Window& owner, unsigned id, const Rect& rect, std::string text, bool visible,
                              bool disabled)
     : CMouseControl(owner, id, rect, std::move(text), visible, disabled) {}
@@ -150,6 +187,10 @@ void CRegionButton::Draw(Canvas& canvas, const Rect&) {
     if (!LoadPngResource(static_cast<unsigned>(resource), bitmap, ResourceType::Bitmap)) return;
     canvas.drawKeyed(*bitmap, Rect::at(m_nMouseState * width, 0, width, height), m_rect.topLeft(),
                      bitmap->pixel({keyX, keyY}));
+}
+
+void CRegionButton::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::Button;
 }
 
 } // namespace tarnix

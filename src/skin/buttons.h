@@ -23,6 +23,7 @@ class CStripButton : public CMouseControl {
     /// True when the picture was found.
     bool LoadImage(unsigned resource) { return m_strip.load(resource); }
     void Draw(Canvas& canvas, const Rect& clip) override;
+    void describe(AccessibleItem& item) const override;
 
   protected:
     CStripButton(int frames, Window& owner, unsigned id, const Rect& rect, std::string text, bool visible,
@@ -46,6 +47,8 @@ class CCheckButton : public CStripButton {
     CCheckButton(Window& owner, unsigned id, const Rect& rect, std::string text = {}, bool visible = true,
                  bool disabled = false);
 
+    void describe(AccessibleItem& item) const override;
+
     bool m_bChecked = false;
 
   protected:
@@ -58,6 +61,8 @@ class CRadioButton : public CStripButton {
   public:
     CRadioButton(Window& owner, unsigned id, const Rect& rect, std::string text = {}, bool visible = true,
                  bool disabled = false);
+
+    void describe(AccessibleItem& item) const override;
 
   protected:
     int frame() const override;
@@ -74,6 +79,7 @@ class CComboButton : public CStripButton {
                  std::string value = {});
 
     void Draw(Canvas& canvas, const Rect& clip) override;
+    void describe(AccessibleItem& item) const override;
     /// Stores the text that the field shows, and repaints.
     void SetValueText(const std::string& value);
     const std::string& valueText() const { return m_strValue; }
@@ -88,6 +94,9 @@ class CComboButton : public CStripButton {
     void clicked(Point at) override;
 
   private:
+    /// What stands in the field.
+    std::string_view shownText() const;
+
     std::string m_strValue;
     Message m_nNotifyMessage;
 };
@@ -101,6 +110,7 @@ class CKeyboardButton : public CStripButton {
     void SetKey(const std::string& name, std::uint8_t defaultCode, std::uint8_t currentCode);
     /// Sets the current code and the remapped flag; does not repaint.
     void SetCurrentCode(std::uint8_t code);
+    void describe(AccessibleItem& item) const override;
 
     std::string m_strKeyName;
     std::uint8_t m_nDefaultCode = 0;
@@ -122,6 +132,7 @@ class CLinkButton : public CStripButton {
                 bool disabled = false);
 
     bool OnMouseMove(unsigned flags, Point at) override;
+    void describe(AccessibleItem& item) const override;
 
   private:
     bool m_bInside = false;
@@ -145,6 +156,7 @@ class CRegionButton : public CMouseControl {
                   bool disabled = false);
 
     void Draw(Canvas& canvas, const Rect& clip) override;
+    void describe(AccessibleItem& item) const override;
 
     RegionRecord m_region;
 };

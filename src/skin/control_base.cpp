@@ -66,6 +66,10 @@ bool CControlBase::IsReady() const {
     return true;
 }
 
+void CControlBase::describe(AccessibleItem&) const {}
+
+void CControlBase::moveTo(int) {}
+
 void CControlBase::repaint() const {
     m_hOwner.invalidate(m_rect);
 }

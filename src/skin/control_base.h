@@ -57,6 +57,11 @@ class CControlBase {
     virtual bool IsReady() const;
     /// Gives up what the user types into the control. False when that is nothing.
     virtual bool OnEscape() { return false; }
+    /// What assistive technology is told of the control; `item` holds its place, its caption, and whether it
+    /// is disabled. Default: nothing, the control is left out.
+    virtual void describe(AccessibleItem& item) const;
+    /// Moves a control that has a range, as the user does. Default: nothing.
+    virtual void moveTo(int value);
 
     /// Half-open: the right and bottom edges are outside.
     bool hit(Point at) const { return m_rect.contains(at); }
@@ -68,7 +73,7 @@ class CControlBase {
     bool m_bVisible;
     bool m_bDisabled; ///< the mouse leaves the control's state alone
     bool m_bTakesMouse;
-    std::string m_strText; ///< the caption given at construction; no control draws it
+    std::string m_strText; ///< the caption: no control draws it, assistive technology reads it
     Window& m_hOwner;
 
   protected:

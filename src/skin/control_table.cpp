@@ -10,13 +10,14 @@ namespace {
 
 template <class T>
 std::unique_ptr<CControlBase> makeStrip(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto button = std::make_unique<T>(owner, row.id, rect);
+    auto button = std::make_unique<T>(owner, row.id, rect, row.caption);
     if (row.image) button->LoadImage(row.image);
     return button;
 }
 
 std::unique_ptr<CControlBase> makeCombo(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto field = std::make_unique<CComboButton>(owner, row.notify, row.id, rect, "", true, false, row.text);
+    auto field =
+        std::make_unique<CComboButton>(owner, row.notify, row.id, rect, row.caption, true, false, row.text);
     field->LoadImage(row.image);
     return field;
 }
@@ -29,21 +30,19 @@ std::unique_ptr<CControlBase> makeKey(Window& owner, const ControlRow& row, cons
 }
 
 std::unique_ptr<CControlBase> makeRegion(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto button = std::make_unique<CRegionButton>(owner, row.id, rect);
+    auto button = std::make_unique<CRegionButton>(owner, row.id, rect, row.caption);
     button->m_region = row.region;
     return button;
 }
 
 std::unique_ptr<CControlBase> makeScrollBar(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto bar = std::make_unique<CVScrollBar>(owner, row.id, rect);
+    auto bar = std::make_unique<CVScrollBar>(owner, row.id, rect, row.caption);
     bar->LoadImages();
     return bar;
 }
 
 std::unique_ptr<CControlBase> makeLabel(Window& owner, const ControlRow& row, const Rect& rect) {
-    auto label = std::make_unique<CStaticText>(owner, row.id, rect, row.color, row.format);
-    label->m_strLabel = row.text;
-    return label;
+    return std::make_unique<CStaticText>(owner, row.id, rect, row.color, row.format, row.caption);
 }
 
 } // namespace

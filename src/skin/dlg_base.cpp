@@ -129,6 +129,41 @@ void CDlgBase::OnDestroy() {
     m_popups.destroyAll();
 }
 
+/// A control's number is its place in the order of the groups.
+AccessibleFace CDlgBase::accessibleFace() const {
+    AccessibleFace face{.name = programTitle};
+    unsigned number = 0;
+    m_controls.forEach([&](const CControlBase& control) {
+        AccessibleItem item{.number = number++,
+                            .rect = control.GetRect(),
+                            .name = control.m_strText,
+                            .disabled = control.m_bDisabled,
+                            .focused = &control == m_mouse.focus()};
+        if (!control.m_bVisible || !item.rect.intersects(clientRect())) return;
+        control.describe(item);
+        if (item.role != AccessibleRole::None) face.items.push_back(std::move(item));
+    });
+    return face;
+}
+
+void CDlgBase::OnAccessibleValue(unsigned number, int value) {
+    unsigned each = 0;
+    m_controls.forEach([&](CControlBase& control) {
+        if (each++ == number) control.moveTo(value);
+    });
+}
+
+void addPaintedTexts(AccessibleFace& face, std::span<const PaintedText> texts) {
+    constexpr unsigned firstNumber = 0x10000; // beyond any control's
+    auto at = face.items.begin();
+    for (unsigned i = 0; i < texts.size(); ++i)
+        at = face.items.insert(at, {.number = firstNumber + i,
+                                    .role = AccessibleRole::Label,
+                                    .rect = texts[i].place,
+                                    .name = texts[i].text}) +
+             1;
+}
+
 LResult CDlgBase::OnMessage(Message message, WParam w, LParam l) {
     if (message != CWndPopup::goneMessage) return m_messages.dispatch(message, w, l);
     m_popups.free(l);

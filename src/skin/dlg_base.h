@@ -66,6 +66,8 @@ class CDlgBase : public Window {
     void OnClose() override;
     void OnDestroy() override;
     LResult OnMessage(Message message, WParam w, LParam l) override;
+    AccessibleFace accessibleFace() const override;
+    void OnAccessibleValue(unsigned number, int value) override;
 
   protected:
     /// The initial setup: icon, title, size, controls, place.
@@ -103,5 +105,8 @@ class CDlgBase : public Window {
     MouseRouter m_mouse{*this, m_controls};
     PopupPlaces m_popups{*this, m_mouse};
 };
+
+/// Puts texts of a window's background in front of what else assistive technology is told of the window.
+void addPaintedTexts(AccessibleFace& face, std::span<const PaintedText> texts);
 
 } // namespace tarnix

@@ -23,6 +23,14 @@ void CFormDlg::BuildControls(const Rect& client) {
     addControls(0, m_form.controls, client.topLeft());
 }
 
+AccessibleFace CFormDlg::accessibleFace() const {
+    AccessibleFace face = CDlgBase::accessibleFace();
+    face.name = m_form.title;
+    if (m_form.notice) face.role = AccessibleRole::Alert;
+    addPaintedTexts(face, m_form.texts);
+    return face;
+}
+
 void CFormDlg::OnCancel() {
     end(IDCANCEL);
 }

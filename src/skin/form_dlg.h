@@ -8,11 +8,14 @@
 namespace tarnix {
 
 struct DialogForm {
-    const char* role; ///< the class's name
+    const char* role;  ///< the class's name
+    const char* title; ///< what the background is headed with
     Size size;
     unsigned background; ///< bitmap resource
     std::span<const ControlRow> controls;
-    bool shaped = false; ///< the background cuts the outline too
+    bool shaped = false;                     ///< the background cuts the outline too
+    bool notice = false;                     ///< it says something rather than asking for it
+    std::span<const PaintedText> texts = {}; ///< what else the background says
 };
 
 /// Its close button (2004) and Cancel (2011) end it with IDCANCEL. What the user does after the end, in the
@@ -20,6 +23,8 @@ struct DialogForm {
 class CFormDlg : public CDlgBase {
   public:
     CFormDlg(const DialogForm& form, Window* owner);
+
+    AccessibleFace accessibleFace() const override;
 
   protected:
     void OnInitDialog() override;

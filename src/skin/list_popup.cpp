@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "skin/dlg_base.h"
+
 namespace tarnix {
 
 namespace {
@@ -61,6 +63,26 @@ void CListPopup::DrawList(Canvas& canvas, const Rect&) {
         canvas.drawText(row.text, {rect.left + 2, rect.top, rect.right - 2, rect.bottom}, format);
         if (row.submenu) drawArrow(canvas, rect);
     }
+}
+
+/// A list is called what the field is called that opened it.
+AccessibleFace CListPopup::accessibleFace() const {
+    AccessibleFace face{.role = AccessibleRole::Menu, .name = programTitle};
+    const auto* dialog = dynamic_cast<const CDlgBase*>(owner());
+    if (const CControlBase* field = dialog ? dialog->GetControl(tag()) : nullptr)
+        face.name = field->GetText();
+    for (int i = 0; i < static_cast<int>(m_rows.size()); ++i) {
+        const Row& row = m_rows[static_cast<std::size_t>(i)];
+        if (!row.rect.intersects(clientRect())) break;
+        face.items.push_back({.number = static_cast<unsigned>(i),
+                              .role = row.separator ? AccessibleRole::Separator : AccessibleRole::MenuItem,
+                              .rect = row.rect,
+                              .name = row.text,
+                              .selected = i == m_nHotRow,
+                              .opens = row.submenu,
+                              .focused = i == m_nHotRow});
+    }
+    return face;
 }
 
 bool CListPopup::inHotRow(Point at) const {

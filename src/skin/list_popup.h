@@ -49,6 +49,7 @@ class CListPopup : public CWndPopup {
     const std::vector<Row>& rows() const { return m_rows; }
     /// Index of the highlighted row, -1 for none.
     int hotRow() const { return m_nHotRow; }
+    AccessibleFace accessibleFace() const override;
 
   protected:
     /// The traits must outlive the popup; `kindOffset` is added to their kind.

@@ -5,6 +5,7 @@
 
 #include "profile/vocabulary.h"
 #include "skin/fonts.h"
+#include "skin/step_words.h"
 
 namespace tarnix {
 
@@ -30,15 +31,33 @@ Rect CRowList::rowRect(int line) const {
             m_rect.top + (line + 1) * rowHeight};
 }
 
-void CRowList::Draw(Canvas& canvas, const Rect&) {
-    canvas.fill(m_rect, listColor);
+template <class F>
+void CRowList::forEachShown(F visit) const {
     const int first = std::max(m_nFirstRow, 0);
     const int shown = std::min(m_nVisibleRows, rowCount() - first);
-    for (int line = 0; line < shown; ++line) {
-        const Rect row = rowRect(line);
-        if (first + line == m_nSelected) canvas.fill(row, selectionColor);
-        drawRow(canvas, first + line, row);
-    }
+    for (int line = 0; line < shown; ++line)
+        visit(first + line, rowRect(line));
+}
+
+void CRowList::Draw(Canvas& canvas, const Rect&) {
+    canvas.fill(m_rect, listColor);
+    forEachShown([&](int index, const Rect& row) {
+        if (index == m_nSelected) canvas.fill(row, selectionColor);
+        drawRow(canvas, index, row);
+    });
+}
+
+void CRowList::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::List;
+    forEachShown([&](int index, const Rect& rect) {
+        AccessibleItem& row = item.rows.emplace_back();
+        row = {.number = static_cast<unsigned>(index),
+               .role = AccessibleRole::ListItem,
+               .rect = rect,
+               .disabled = m_bDisabled,
+               .selected = index == m_nSelected};
+        describeRow(row, index);
+    });
 }
 
 /// The line on the screen, not the item, is what is compared with the number of items: in a scrolled list a
@@ -79,7 +98,7 @@ int CEditShowList::BeginNewName() {
     m_nFirstRow = std::max(rowCount() + 1 - m_nVisibleRows, 0);
     Rect field = rowRect(rowCount() - m_nFirstRow);
     field.top += 2;
-    m_editor = std::make_unique<EditField>(m_hOwner, editorId, field);
+    m_editor = std::make_unique<EditField>(m_hOwner, editorId, field, EditStyle{.caption = "Macro name"});
     m_editor->setFocus();
     return 1;
 }
@@ -119,6 +138,10 @@ void CEditShowList::finishName() {
         notifyOwner(NOTIFY_NAME_ADDED);
     }
     CloseEditor();
+}
+
+void CEditShowList::describeRow(AccessibleItem& row, int index) const {
+    row.name = shownSet()->keys[static_cast<std::size_t>(index)].name;
 }
 
 CImageShowList::CImageShowList(Window& owner, unsigned id, const Rect& rect, MacroLibrary& source,
@@ -161,6 +184,14 @@ void CImageShowList::drawRow(Canvas& canvas, int index, const Rect& row) {
     const Size size = m_release.frameSize();
     icon.draw(canvas, 0, Rect::at(row.left, row.top + 3, size.width, size.height));
     canvas.drawText(text(index), {row.left + 15, row.top, row.right, row.bottom}, colored(valueFont, white));
+}
+
+void CImageShowList::describeRow(AccessibleItem& row, int index) const {
+    const MacroAction& action = steps()[static_cast<std::size_t>(index)];
+    row.name = action.isDelay()     ? stepWords::delay
+               : action.isRelease() ? stepWords::release
+                                    : stepWords::press;
+    row.value = text(index);
 }
 
 } // namespace tarnix

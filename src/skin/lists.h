@@ -18,6 +18,8 @@ class CRowList : public CMouseControl {
     static constexpr int rowHeight = 20;
 
     void Draw(Canvas& canvas, const Rect& clip) override;
+    /// The rows on the screen are the items of the list.
+    void describe(AccessibleItem& item) const override;
     /// Number of items that there are to show.
     virtual int rowCount() const = 0;
 
@@ -29,9 +31,16 @@ class CRowList : public CMouseControl {
     CRowList(Window& owner, unsigned id, const Rect& rect, std::string text, bool visible, bool disabled);
     /// Draws an item that there is.
     virtual void drawRow(Canvas& canvas, int index, const Rect& row) = 0;
+    /// Gives the name and the value of an item that there is.
+    virtual void describeRow(AccessibleItem& row, int index) const = 0;
     /// Where a line of the screen stands, counted from the top of the list.
     Rect rowRect(int line) const;
     void pressed(Point at) override;
+
+  private:
+    /// Calls visit(index, rectangle) for each item on the screen.
+    template <class F>
+    void forEachShown(F visit) const;
 };
 
 /// The names of the macros of one set of a library.
@@ -64,6 +73,7 @@ class CEditShowList : public CRowList {
 
   protected:
     void drawRow(Canvas& canvas, int index, const Rect& row) override;
+    void describeRow(AccessibleItem& row, int index) const override;
     void pressed(Point at) override;
 
   private:
@@ -94,6 +104,7 @@ class CImageShowList : public CRowList {
 
   protected:
     void drawRow(Canvas& canvas, int index, const Rect& row) override;
+    void describeRow(AccessibleItem& row, int index) const override;
 
   private:
     std::span<const MacroAction> steps() const;

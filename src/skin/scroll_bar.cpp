@@ -68,6 +68,18 @@ void CVScrollBar::Draw(Canvas& canvas, const Rect&) {
     canvas.fill(thumb().inset(1), m_over.thumb ? hotThumbFace : thumbFace);
 }
 
+void CVScrollBar::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::ScrollBar;
+    const int greatest = std::max(m_nRange - m_nPage, 0);
+    item.range = {std::clamp(m_nPosition, 0, greatest), greatest};
+}
+
+void CVScrollBar::moveTo(int position) {
+    if (m_bDisabled || position == m_nPosition) return;
+    SetScrollState(position, m_nPage, m_nRange);
+    notifyOwner(NOTIFY_DRAG);
+}
+
 bool CVScrollBar::OnMouseMove(unsigned, Point at) {
     if (m_bDisabled) return false;
     const int stateBefore = m_nMouseState;

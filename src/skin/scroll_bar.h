@@ -25,6 +25,9 @@ class CVScrollBar : public CMouseControl {
     const Rect& thumb() const { return m_dragging ? m_drag : m_thumb; }
 
     void Draw(Canvas& canvas, const Rect& clip) override;
+    void describe(AccessibleItem& item) const override;
+    /// Raises NOTIFY_DRAG, as far as the position is another one.
+    void moveTo(int position) override;
     bool OnMouseMove(unsigned flags, Point at) override;
     bool OnLButtonUp(unsigned flags, Point at) override;
 

@@ -18,4 +18,13 @@ void CStaticText::Draw(Canvas& canvas, const Rect&) {
     canvas.drawText(m_strLabel, m_rect, format);
 }
 
+/// A label is called what stands in it, behind its caption if it has one.
+void CStaticText::describe(AccessibleItem& item) const {
+    if (!item.name.empty())
+        item.value = m_strLabel;
+    else
+        item.name = m_strLabel;
+    if (!item.name.empty()) item.role = AccessibleRole::Label;
+}
+
 } // namespace tarnix

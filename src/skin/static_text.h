@@ -16,6 +16,7 @@ class CStaticText : public CMouseControl {
                 std::string text = {}, bool visible = true, bool disabled = false);
 
     void Draw(Canvas& canvas, const Rect& clip) override;
+    void describe(AccessibleItem& item) const override;
 
     std::string m_strLabel; ///< what is drawn; the owner assigns it and repaints
     Color m_color;

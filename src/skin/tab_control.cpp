@@ -30,9 +30,18 @@ CTabControl::CTabControl(Window& owner, unsigned id, const Rect& rect, std::stri
                          bool disabled)
     : CStripButton(3, owner, id, rect, std::move(text), visible, disabled) {}
 
-int CTabControl::frame() const {
+bool CTabControl::isSelected() const {
     const TabRow* tab = tabOf(m_nID);
-    return tab && *tab->selection == tab->value ? mousePressed : m_nMouseState;
+    return tab && *tab->selection == tab->value;
+}
+
+int CTabControl::frame() const {
+    return isSelected() ? mousePressed : m_nMouseState;
+}
+
+void CTabControl::describe(AccessibleItem& item) const {
+    item.role = AccessibleRole::Tab;
+    item.selected = isSelected();
 }
 
 void CTabControl::clicked(Point) {

@@ -19,9 +19,14 @@ class CTabControl : public CStripButton {
     CTabControl(Window& owner, unsigned id, const Rect& rect, std::string text = {}, bool visible = true,
                 bool disabled = false);
 
+    void describe(AccessibleItem& item) const override;
+
   protected:
     int frame() const override;
     void clicked(Point at) override;
+
+  private:
+    bool isSelected() const;
 };
 
 } // namespace tarnix

@@ -13,6 +13,8 @@ class CAttentionDlg : public CFormDlg {
   public:
     CAttentionDlg(std::string title, std::string message, Window* owner = nullptr);
 
+    AccessibleFace accessibleFace() const override;
+
   protected:
     void BuildControls(const Rect& client) override;
     void OnEnter() override;

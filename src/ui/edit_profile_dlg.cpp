@@ -8,7 +8,8 @@ namespace tarnix {
 using namespace dialog;
 
 CEditProfileDlg::CEditProfileDlg(Shell& shell, Window* owner)
-    : CFormDlg({"CEditProfileDlg", profile::size, profile::background, profile::controls}, owner),
+    : CFormDlg({"CEditProfileDlg", profile::title, profile::size, profile::background, profile::controls},
+               owner),
       m_shell(shell) {
     m_messages.onClick(okButton, [this] { end(IDOK); })
         .onClick(profile::browse1, [this] { browse(profile::path1); })
@@ -18,8 +19,9 @@ CEditProfileDlg::CEditProfileDlg(Shell& shell, Window* owner)
 
 void CEditProfileDlg::BuildControls(const Rect& client) {
     CFormDlg::BuildControls(client);
-    m_nameField = std::make_unique<EditField>(*this, profile::nameField, profile::nameFieldRect,
-                                              EditStyle{.text = white, .background = black});
+    m_nameField = std::make_unique<EditField>(
+        *this, profile::nameField, profile::nameFieldRect,
+        EditStyle{.text = white, .background = black, .caption = profile::nameCaption});
     m_nameField->setFocus();
 }
 

@@ -1,13 +1,18 @@
 #include "ui/firmware_reset_dlg.h"
 
-#include "ui/dialog_layouts.h"
-
 namespace tarnix {
 
 using namespace dialog;
 
-CFirmwareResetDlg::CFirmwareResetDlg(unsigned background, Window* owner)
-    : CFormDlg({"CFirmwareResetDlg", wideSize, background, reset::controls}, owner) {
+CFirmwareResetDlg::CFirmwareResetDlg(const reset::Question& question, Window* owner)
+    : CFormDlg({.role = "CFirmwareResetDlg",
+                .title = question.title,
+                .size = wideSize,
+                .background = question.background,
+                .controls = reset::controls,
+                .notice = true,
+                .texts = question.texts},
+               owner) {
     m_messages.onClick(okButton, [this] { end(IDOK); });
 }
 

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "skin/form_dlg.h"
+#include "ui/dialog_layouts.h"
 
 namespace tarnix {
 
 /// DoModal answers IDOK when the user agrees.
 class CFirmwareResetDlg : public CFormDlg {
   public:
-    /// A background of dialog::reset.
-    explicit CFirmwareResetDlg(unsigned background, Window* owner = nullptr);
+    explicit CFirmwareResetDlg(const dialog::reset::Question& question, Window* owner = nullptr);
 };
 
 } // namespace tarnix

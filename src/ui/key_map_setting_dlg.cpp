@@ -17,14 +17,10 @@ namespace {
 constexpr LParam mousePopupKind = 3;
 /// The popup's item that stands for the first mouse code; the others follow in the same order.
 constexpr int firstMouseItem = 24;
-constexpr int mouseItemCount = CKeyMapSettingDlg::lastMouseCode - CKeyMapSettingDlg::firstMouseCode + 1;
+constexpr int mouseItemCount = lastMouseCode - firstMouseCode + 1;
 
 constexpr bool isMouseCode(std::uint8_t code) {
-    return code >= CKeyMapSettingDlg::firstMouseCode && code <= CKeyMapSettingDlg::lastMouseCode;
-}
-
-std::string mouseCodeName(std::uint8_t code) {
-    return std::string(MouseFunctionName(firstMouseItem + code - CKeyMapSettingDlg::firstMouseCode));
+    return code >= firstMouseCode && code <= lastMouseCode;
 }
 
 /// The code of a record of the popup; a button that is none of the popup's counts as a click.
@@ -35,15 +31,15 @@ std::uint8_t mouseCodeOf(const SelectionRecord& record) {
     for (int item = 0; item < mouseItemCount; ++item) {
         const KeyAssignment value = mouseFunctionValue(firstMouseItem + item);
         if (functionType(value) == type && value[1] == record.bytes[1])
-            return static_cast<std::uint8_t>(CKeyMapSettingDlg::firstMouseCode + item);
+            return static_cast<std::uint8_t>(firstMouseCode + item);
     }
-    return CKeyMapSettingDlg::firstMouseCode;
+    return firstMouseCode;
 }
 
 } // namespace
 
 CKeyMapSettingDlg::CKeyMapSettingDlg(KeyToMap key, Window* owner)
-    : CFormDlg({"CKeyMapSettingDlg", wideSize, keymap::background, keymap::controls}, owner),
+    : CFormDlg({"CKeyMapSettingDlg", keymap::title, wideSize, keymap::background, keymap::controls}, owner),
       m_key(std::move(key)),
       m_nKeyCode(m_key.currentCode) {
     m_messages.onClick(okButton, [this] { accept(); })
@@ -73,7 +69,7 @@ void CKeyMapSettingDlg::BuildControls(const Rect& client) {
         showKeyFunction(KeyCodeName(m_key.currentCode));
         selectRadio(keymap::keyRadio);
     }
-    control<CComboButton>(keymap::mouseField)->SetValueText(mouseCodeName(m_nMouseCode));
+    control<CComboButton>(keymap::mouseField)->SetValueText(std::string(keyFunctionName(m_nMouseCode)));
 }
 
 void CKeyMapSettingDlg::OnInitDialog() {

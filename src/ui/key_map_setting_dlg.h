@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/keyboard_hook.h"
+#include "profile/vocabulary.h"
 #include "skin/form_dlg.h"
 
 namespace tarnix {
@@ -23,10 +24,6 @@ struct KeyToMap {
 /// taken for the choice and do nothing else.
 class CKeyMapSettingDlg : public CFormDlg {
   public:
-    // Codes of keys that have a mouse function.
-    static constexpr std::uint8_t firstMouseCode = 0xD0; ///< click
-    static constexpr std::uint8_t lastMouseCode = 0xD6;  ///< fire
-
     CKeyMapSettingDlg(KeyToMap key, Window* owner);
 
     void OnDestroy() override;

@@ -57,15 +57,16 @@ MacroPage::MacroPage(const MainWindowContext& context)
 
 void MacroPage::build(Point origin) {
     CDlgBase& window = m_context.window;
-    m_pLoopEdit =
-        std::make_unique<EditField>(window, id::loopCountField, loopCountFieldRect.moved(origin.x, origin.y),
-                                    EditStyle{.numbersOnly = true, .visible = false});
+    m_pLoopEdit = std::make_unique<EditField>(
+        window, id::loopCountField, loopCountFieldRect.moved(origin.x, origin.y),
+        EditStyle{.numbersOnly = true, .caption = loopCountCaption, .visible = false});
     window.addControls(group::macroPage, macroPageControls, origin);
-    auto actionList = std::make_unique<CImageShowList>(
-        window, id::actionList, actionListRect.moved(origin.x, origin.y), m_context.macros);
+    auto actionList =
+        std::make_unique<CImageShowList>(window, id::actionList, actionListRect.moved(origin.x, origin.y),
+                                         m_context.macros, actionListCaption);
     actionList->LoadImages();
     auto macroList = std::make_unique<CEditShowList>(
-        window, id::macroList, macroListRect.moved(origin.x, origin.y), m_context.macros);
+        window, id::macroList, macroListRect.moved(origin.x, origin.y), m_context.macros, macroListCaption);
     macroList->SelectSet(0);
     window.controls().add(group::macroPage, std::move(actionList));
     window.controls().add(group::macroPage, std::move(macroList));

@@ -18,31 +18,37 @@ inline constexpr unsigned mainBackground = 129;
 
 /// Always visible. The macro-page and G-key-page tabs are hidden as soon as they are built.
 inline constexpr std::array<ControlRow, 15> commonControls{{
-    imageButton(id::closeButton, Rect::at(764, 15, 23, 19), 135),
-    imageButton(id::minimiseButton, Rect::at(738, 15, 23, 19), 136),
-    linkButton(Rect::at(633, 12, 105, 94)),
-    tabControl(id::keyPageTab, Rect::at(153, 504, 98, 33), 137),
-    tabControl(id::macroPageTab, Rect::at(253, 504, 98, 33), 262),
-    tabControl(id::gKeyPageTab, Rect::at(453, 504, 98, 33), 263),
-    tabControl(id::lightingPageTab, Rect::at(553, 504, 98, 33), 264),
-    imageButton(id::okButton, Rect::at(534, 124, 69, 23), 166),
-    imageButton(id::applyButton, Rect::at(682, 124, 69, 23), 167),
-    imageButton(id::cancelButton, Rect::at(609, 124, 69, 23), 168),
-    tabControl(id::profileTab1, Rect::at(253, 539, 98, 33), 171),
-    tabControl(id::profileTab2, Rect::at(353, 539, 98, 33), 170),
-    tabControl(id::profileTab3, Rect::at(453, 539, 98, 33), 169),
-    imageButton(id::resetButton, Rect::at(53, 504, 98, 33), 164),
-    imageButton(id::restoreButton, Rect::at(653, 504, 98, 33), 257),
+    imageButton(id::closeButton, Rect::at(764, 15, 23, 19), 135, "Close"),
+    imageButton(id::minimiseButton, Rect::at(738, 15, 23, 19), 136, "Minimise"),
+    linkButton(Rect::at(633, 12, 105, 94), "Web site"),
+    tabControl(id::keyPageTab, Rect::at(153, 504, 98, 33), 137, "Key settings"),
+    tabControl(id::macroPageTab, Rect::at(253, 504, 98, 33), 262, "Macros"),
+    tabControl(id::gKeyPageTab, Rect::at(453, 504, 98, 33), 263, "G-keys"),
+    tabControl(id::lightingPageTab, Rect::at(553, 504, 98, 33), 264, "Lighting"),
+    imageButton(id::okButton, Rect::at(534, 124, 69, 23), 166, "OK"),
+    imageButton(id::applyButton, Rect::at(682, 124, 69, 23), 167, "Apply"),
+    imageButton(id::cancelButton, Rect::at(609, 124, 69, 23), 168, "Cancel"),
+    tabControl(id::profileTab1, Rect::at(253, 539, 98, 33), 171, "Profile 1"),
+    tabControl(id::profileTab2, Rect::at(353, 539, 98, 33), 170, "Profile 2"),
+    tabControl(id::profileTab3, Rect::at(453, 539, 98, 33), 169, "Profile 3"),
+    imageButton(id::resetButton, Rect::at(53, 504, 98, 33), 164, "Reset profile"),
+    imageButton(id::restoreButton, Rect::at(653, 504, 98, 33), 257, "Restore all"),
 }};
 
 /// Five markers far below the window's edge; they share the G-key-page tab's identifier.
 inline constexpr std::array<ControlRow, 5> areaMarkers{{
-    tabControl(id::gKeyPageTab, Rect::at(183, 2283, 19, 18), 389),
-    tabControl(id::gKeyPageTab, Rect::at(182, 2301, 20, 18), 390),
-    tabControl(id::gKeyPageTab, Rect::at(181, 2319, 20, 18), 391),
-    tabControl(id::gKeyPageTab, Rect::at(180, 2337, 20, 19), 392),
-    tabControl(id::gKeyPageTab, Rect::at(179, 2356, 20, 18), 393),
+    tabControl(id::gKeyPageTab, Rect::at(183, 2283, 19, 18), 389, "Area 1"),
+    tabControl(id::gKeyPageTab, Rect::at(182, 2301, 20, 18), 390, "Area 2"),
+    tabControl(id::gKeyPageTab, Rect::at(181, 2319, 20, 18), 391, "Area 3"),
+    tabControl(id::gKeyPageTab, Rect::at(180, 2337, 20, 19), 392, "Area 4"),
+    tabControl(id::gKeyPageTab, Rect::at(179, 2356, 20, 18), 393, "Area 5"),
 }};
+
+inline constexpr PaintedText commandHint{
+    "Apply sends your changes to the keyboard; OK also closes the window.", Rect::at(53, 116, 460, 39)};
+inline constexpr PaintedText keyPageHint{"Click a key to give it another function.",
+                                         Rect::at(53, 446, 300, 18)};
+inline constexpr PaintedText lightingPageHint{"Kept with each profile.", Rect::at(53, 446, 180, 18)};
 
 /// The keyboard picture; a key's code is the factory code, which it sends out of the box: a HID usage of the
 /// keyboard page, or the keyboard's own code for a key with a second function. In order of creation: the
@@ -157,34 +163,38 @@ inline constexpr std::array<ControlRow, 104> keyCaps{{
 /// The macro page: a native field, the buttons, two lists and their scroll bars, in this order.
 inline constexpr Rect loopCountFieldRect = Rect::at(642, 436, 93, 22);
 inline constexpr std::array<ControlRow, 7> macroPageControls{{
-    imageButton(id::macroButton1, Rect::at(162, 483, 70, 33), 267),
-    imageButton(id::macroButton2, Rect::at(233, 483, 70, 33), 268),
-    imageButton(id::macroButton3, Rect::at(392, 483, 70, 33), 269),
-    imageButton(id::macroButton4, Rect::at(463, 483, 70, 33), 270),
-    checkButton(id::loopCheck, Rect::at(642, 411, 16, 16), 156),
-    checkButton(id::delayCheck, Rect::at(642, 291, 16, 16), 156),
-    checkButton(id::recordSwitch, Rect::at(642, 249, 120, 29), 189),
+    imageButton(id::macroButton1, Rect::at(162, 483, 70, 33), 267, "New"),
+    imageButton(id::macroButton2, Rect::at(233, 483, 70, 33), 268, "Delete"),
+    imageButton(id::macroButton3, Rect::at(392, 483, 70, 33), 269, "Import"),
+    imageButton(id::macroButton4, Rect::at(463, 483, 70, 33), 270, "Export"),
+    checkButton(id::loopCheck, Rect::at(642, 411, 16, 16), 156, "Loop"),
+    checkButton(id::delayCheck, Rect::at(642, 291, 16, 16), 156, "Record delays"),
+    checkButton(id::recordSwitch, Rect::at(642, 249, 120, 29), 189, "Record"),
 }};
+inline constexpr const char* loopCountCaption = "Loop count";
 inline constexpr Rect actionListRect = Rect::at(392, 239, 117, 228);
+inline constexpr const char* actionListCaption = "Steps";
 inline constexpr Rect macroListRect = Rect::at(162, 239, 117, 228);
+inline constexpr const char* macroListCaption = "Macros";
 inline constexpr std::array<ControlRow, 2> macroPageScrollBars{{
-    scrollBar(id::macroScrollBar, Rect::at(280, 239, 21, 227)),
-    scrollBar(id::actionScrollBar, Rect::at(510, 239, 21, 227)),
+    scrollBar(id::macroScrollBar, Rect::at(280, 239, 21, 227), "Scroll macros"),
+    scrollBar(id::actionScrollBar, Rect::at(510, 239, 21, 227), "Scroll steps"),
 }};
 
 /// The fields of G-key slots 0 to 4; slot 5 has none of its own.
 inline constexpr std::array<ControlRow, 5> gKeyFields{{
-    comboButton(id::gKeyField1, Rect::at(161, 239, 169, 26), 266, msg::openFunctionMenu, "CTRL+1"),
-    comboButton(id::gKeyField2, Rect::at(161, 269, 169, 26), 266, msg::openFunctionMenu, "CTRL+2"),
-    comboButton(id::gKeyField3, Rect::at(161, 299, 169, 26), 266, msg::openFunctionMenu, "CTRL+3"),
-    comboButton(id::gKeyField4, Rect::at(161, 329, 169, 26), 266, msg::openFunctionMenu, "CTRL+4"),
-    comboButton(id::gKeyField5, Rect::at(161, 359, 169, 26), 266, msg::openFunctionMenu, "CTRL+5"),
+    comboButton(id::gKeyField1, Rect::at(161, 239, 169, 26), 266, msg::openFunctionMenu, "G-key 1", "CTRL+1"),
+    comboButton(id::gKeyField2, Rect::at(161, 269, 169, 26), 266, msg::openFunctionMenu, "G-key 2", "CTRL+2"),
+    comboButton(id::gKeyField3, Rect::at(161, 299, 169, 26), 266, msg::openFunctionMenu, "G-key 3", "CTRL+3"),
+    comboButton(id::gKeyField4, Rect::at(161, 329, 169, 26), 266, msg::openFunctionMenu, "G-key 4", "CTRL+4"),
+    comboButton(id::gKeyField5, Rect::at(161, 359, 169, 26), 266, msg::openFunctionMenu, "G-key 5", "CTRL+5"),
 }};
 
 inline constexpr std::array<ControlRow, 3> lightingFields{{
-    comboButton(id::lightModeField, Rect::at(53, 227, 169, 26), 266, msg::openLightMode, "Red"),
-    comboButton(id::brightnessField, Rect::at(53, 290, 169, 26), 266, msg::openBrightness, "100%"),
-    comboButton(id::speedField, Rect::at(53, 346, 169, 26), 266, msg::openSpeed, "Normal"),
+    comboButton(id::lightModeField, Rect::at(53, 227, 169, 26), 266, msg::openLightMode, "Effect", "Red"),
+    comboButton(id::brightnessField, Rect::at(53, 290, 169, 26), 266, msg::openBrightness, "Brightness",
+                "100%"),
+    comboButton(id::speedField, Rect::at(53, 346, 169, 26), 266, msg::openSpeed, "Speed", "Normal"),
 }};
 
 /// The band behind the page's controls. The band pictures of the macro and G-key pages are smaller than it.

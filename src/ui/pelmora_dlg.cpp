@@ -198,6 +198,15 @@ void CPelmoraDlg::DrawWindow(Canvas& canvas, const Rect& dirty) {
     DrawControls(canvas, dirty);
 }
 
+AccessibleFace CPelmoraDlg::accessibleFace() const {
+    AccessibleFace face = CDlgBase::accessibleFace();
+    face.role = AccessibleRole::MainWindow;
+    const PaintedText texts[] = {commandHint, g_nMainPage == 0 ? keyPageHint : lightingPageHint};
+    const bool hasPageHint = g_nMainPage == 0 || g_nMainPage == 3;
+    addPaintedTexts(face, std::span(texts).first(hasPageHint ? 2 : 1));
+    return face;
+}
+
 /// A minimised window shows the program's icon.
 void CPelmoraDlg::OnPaint(Canvas& canvas, const Rect& dirty) {
     const Image* icon = isMinimised() ? resources().find(ResourceType::Icon, iconId) : nullptr;

@@ -56,6 +56,7 @@ class CPelmoraDlg : public CDlgBase, private DeviceObserver {
     void OnTimer(unsigned id) override;
     void OnEditChange(unsigned id) override;
     void OnDestroy() override;
+    AccessibleFace accessibleFace() const override;
 
   protected:
     void OnInitDialog() override;

@@ -49,7 +49,7 @@ void ProfileCommands::SwitchProfile(int n) {
 }
 
 void ProfileCommands::ResetDisplayedProfile() {
-    CFirmwareResetDlg confirmation(dialog::reset::profileBackground, &m_context.window);
+    CFirmwareResetDlg confirmation(dialog::reset::profileReset, &m_context.window);
     if (confirmation.DoModal() != IDOK) return;
     const int n = m_context.currentProfile();
     resetEverywhere(n);
@@ -59,7 +59,7 @@ void ProfileCommands::ResetDisplayedProfile() {
 }
 
 void ProfileCommands::RestoreFactory() {
-    CFirmwareResetDlg confirmation(dialog::reset::factoryBackground, &m_context.window);
+    CFirmwareResetDlg confirmation(dialog::reset::factoryReset, &m_context.window);
     if (confirmation.DoModal() != IDOK) return;
     ResetConfig(m_context.store, m_context.programFolder);
     SaveConfig(m_context.store, m_context.files, m_context.programFolder);

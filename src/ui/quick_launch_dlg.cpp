@@ -11,7 +11,14 @@ namespace tarnix {
 using namespace dialog;
 
 CQuickLaunchDlg::CQuickLaunchDlg(Shell& shell, Window* owner)
-    : CFormDlg({"CQuickLaunchDlg", launch::size, launch::background, launch::controls, true}, owner),
+    : CFormDlg({.role = "CQuickLaunchDlg",
+                .title = launch::title,
+                .size = launch::size,
+                .background = launch::background,
+                .controls = launch::controls,
+                .shaped = true,
+                .texts = launch::texts},
+               owner),
       m_shell(shell) {
     m_messages.onClick(okButton, [this] { accept(); }).onClick(launch::browse, [this] { browse(); });
 }

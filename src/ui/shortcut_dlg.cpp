@@ -29,7 +29,14 @@ constexpr Modifier modifiers[] = {
 } // namespace
 
 CShortcutDlg::CShortcutDlg(Window* owner)
-    : CFormDlg({"CShortcutDlg", shortcut::size, shortcut::background, shortcut::controls, true}, owner) {
+    : CFormDlg({.role = "CShortcutDlg",
+                .title = shortcut::title,
+                .size = shortcut::size,
+                .background = shortcut::background,
+                .controls = shortcut::controls,
+                .shaped = true,
+                .texts = shortcut::texts},
+               owner) {
     m_messages.onClick(okButton, [this] { accept(); })
         .onClick(shortcut::singleKey, [this] { enableModifiers(); })
         .on(WM_KEYHOOK, [this](WParam key, LParam) { captureKey(static_cast<std::uint8_t>(key)); });

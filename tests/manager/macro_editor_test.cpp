@@ -19,12 +19,12 @@ constexpr MacroEditorIds ids{.newMacro = 2100,
                              .recordSwitch = 2113};
 
 constexpr ControlRow controlRows[] = {
-    imageButton(ids.newMacro, Rect::at(0, 120, 40, 20), 0),
-    imageButton(ids.deleteMacro, Rect::at(50, 120, 40, 20), 0),
-    checkButton(ids.recordDelays, Rect::at(100, 120, 16, 16), 0),
-    checkButton(ids.recordSwitch, Rect::at(120, 120, 16, 16), 0),
-    scrollBar(ids.macroScrollBar, Rect::at(100, 0, 20, 80)),
-    scrollBar(ids.actionScrollBar, Rect::at(230, 0, 20, 80)),
+    imageButton(ids.newMacro, Rect::at(0, 120, 40, 20), 0, ""),
+    imageButton(ids.deleteMacro, Rect::at(50, 120, 40, 20), 0, ""),
+    checkButton(ids.recordDelays, Rect::at(100, 120, 16, 16), 0, ""),
+    checkButton(ids.recordSwitch, Rect::at(120, 120, 16, 16), 0, ""),
+    scrollBar(ids.macroScrollBar, Rect::at(100, 0, 20, 80), ""),
+    scrollBar(ids.actionScrollBar, Rect::at(230, 0, 20, 80), ""),
 };
 constexpr Rect macroRect = Rect::at(0, 0, 100, 80);
 constexpr Rect actionRect = Rect::at(130, 0, 100, 80);

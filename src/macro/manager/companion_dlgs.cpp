@@ -7,8 +7,15 @@
 
 namespace tarnix {
 
-CSetNameDlg::CSetNameDlg(const DialogForm& form, Message answer, Window& owner)
-    : CFormDlg(form, &owner), m_answer(answer) {
+CSetNameDlg::CSetNameDlg(const char* role, const manager::Companion& face, Message answer, Window& owner)
+    : CFormDlg({.role = role,
+                .title = face.title,
+                .size = manager::companionSize,
+                .background = face.background,
+                .controls = manager::setNameControls},
+               &owner),
+      m_answer(answer),
+      m_caption(face.text.text) {
     m_messages.onClick(manager::okButton, [this] { accept(); });
 }
 
@@ -16,7 +23,7 @@ void CSetNameDlg::BuildControls(const Rect& client) {
     CFormDlg::BuildControls(client);
     m_field = std::make_unique<EditField>(
         *this, manager::setNameField, manager::setNameRect,
-        EditStyle{.text = manager::setNameText, .background = manager::setNameGround});
+        EditStyle{.text = manager::setNameText, .background = manager::setNameGround, .caption = m_caption});
     m_field->setFocus();
 }
 
@@ -33,16 +40,20 @@ void CSetNameDlg::accept() {
 }
 
 CMacroManagerAddDlg::CMacroManagerAddDlg(Window& owner)
-    : CSetNameDlg({"CMacroManagerAddDlg", manager::companionSize, manager::addSetBackground,
-                   manager::setNameControls},
-                  manager::addSetByName, owner) {}
+    : CSetNameDlg("CMacroManagerAddDlg", manager::addSet, manager::addSetByName, owner) {}
 
 CMacroManagerDelSetDlg::CMacroManagerDelSetDlg(Window& owner)
-    : CSetNameDlg({"CMacroManagerDelSetDlg", manager::companionSize, manager::deleteSetBackground,
-                   manager::setNameControls},
-                  manager::deleteSetByName, owner) {}
+    : CSetNameDlg("CMacroManagerDelSetDlg", manager::deleteSet, manager::deleteSetByName, owner) {}
 
-CPictureNoticeDlg::CPictureNoticeDlg(const DialogForm& form, Window& owner) : CFormDlg(form, &owner) {
+CPictureNoticeDlg::CPictureNoticeDlg(const char* role, const manager::Companion& face, Window& owner)
+    : CFormDlg({.role = role,
+                .title = face.title,
+                .size = manager::companionSize,
+                .background = face.background,
+                .controls = manager::noticeControls,
+                .notice = true,
+                .texts = {&face.text, 1}},
+               &owner) {
     m_messages.onClick(manager::okButton, [this] { end(IDOK); });
 }
 
@@ -51,13 +62,9 @@ void CPictureNoticeDlg::OnEnter() {
 }
 
 CMacroManagerNoteDlg::CMacroManagerNoteDlg(Window& owner)
-    : CPictureNoticeDlg(
-          {"CMacroManagerNoteDlg", manager::companionSize, manager::noteBackground, manager::noticeControls},
-          owner) {}
+    : CPictureNoticeDlg("CMacroManagerNoteDlg", manager::note, owner) {}
 
 CMacroManagerAttentionDlg::CMacroManagerAttentionDlg(Window& owner)
-    : CPictureNoticeDlg({"CMacroManagerAttentionDlg", manager::companionSize, manager::attentionBackground,
-                         manager::noticeControls},
-                        owner) {}
+    : CPictureNoticeDlg("CMacroManagerAttentionDlg", manager::attention, owner) {}
 
 } // namespace tarnix

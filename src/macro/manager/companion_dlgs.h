@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "macro_manager/manager_layout.h"
 #include "platform/edit_field.h"
 #include "skin/form_dlg.h"
 
@@ -13,7 +14,7 @@ namespace tarnix {
 /// is sent on Cancel.
 class CSetNameDlg : public CFormDlg {
   protected:
-    CSetNameDlg(const DialogForm& form, Message answer, Window& owner);
+    CSetNameDlg(const char* role, const manager::Companion& face, Message answer, Window& owner);
     void BuildControls(const Rect& client) override;
     void OnDestroy() override;
 
@@ -21,6 +22,7 @@ class CSetNameDlg : public CFormDlg {
     void accept();
 
     Message m_answer;
+    const char* m_caption; ///< of the field
     std::unique_ptr<EditField> m_field;
 };
 
@@ -39,7 +41,7 @@ class CMacroManagerDelSetDlg : public CSetNameDlg {
 /// A notice without text of its own.
 class CPictureNoticeDlg : public CFormDlg {
   protected:
-    CPictureNoticeDlg(const DialogForm& form, Window& owner);
+    CPictureNoticeDlg(const char* role, const manager::Companion& face, Window& owner);
     void OnEnter() override;
 };
 

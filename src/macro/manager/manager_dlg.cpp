@@ -53,9 +53,13 @@ void CMacroManagerDlg::Editor::onRefusal(MacroRefusal refusal) {
 }
 
 CMacroManagerDlg::CMacroManagerDlg(Window* owner, Files& files, std::string programFolder, int set)
-    : CFormDlg(
-          {"CMacroManagerDlg", manager::managerSize, manager::managerBackground, manager::managerControls},
-          owner),
+    : CFormDlg({.role = "CMacroManagerDlg",
+                .title = manager::managerTitle,
+                .size = manager::managerSize,
+                .background = manager::managerBackground,
+                .controls = manager::managerControls,
+                .texts = manager::managerTexts},
+               owner),
       m_files(files),
       m_strAppDir(std::move(programFolder)),
       m_openingSet(set),
@@ -83,10 +87,11 @@ CMacroManagerDlg::CMacroManagerDlg(Window* owner, Files& files, std::string prog
 
 void CMacroManagerDlg::BuildControls(const Rect& client) {
     CFormDlg::BuildControls(client);
-    addControl(0,
-               std::make_unique<CEditShowList>(*this, manager::macroList, manager::macroListRect, m_library));
-    auto& actions = addControl(
-        0, std::make_unique<CImageShowList>(*this, manager::actionList, manager::actionListRect, m_library));
+    addControl(0, std::make_unique<CEditShowList>(*this, manager::macroList, manager::macroListRect,
+                                                  m_library, manager::macroListCaption));
+    auto& actions =
+        addControl(0, std::make_unique<CImageShowList>(*this, manager::actionList, manager::actionListRect,
+                                                       m_library, manager::actionListCaption));
     actions.LoadImages();
     m_editor.attach();
     LoadManagerLibrary(m_library, m_files, m_strAppDir);

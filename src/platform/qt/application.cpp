@@ -13,6 +13,7 @@
 #include <string>
 #include <utility>
 
+#include "accessibility.h"
 #include "activation.h"
 #include "event_gate.h"
 #include "modal_runs.h"
@@ -84,6 +85,7 @@ void raiseEnd(int) {
 struct Application::Native : QObject {
     Native(int& argc, char** argv) : application(makeApplication(argc, argv)) {
         QApplication::setQuitOnLastWindowClosed(false);
+        offerAccessibility();
         application->installEventFilter(this);
         QObject::connect(application.get(), &QGuiApplication::focusWindowChanged, this,
                          [] { EventGate::instance().enter([] { Activation::instance().focusMoved(); }); });

@@ -7,7 +7,9 @@
 #include <algorithm>
 
 #include "convert.h"
+#include "event_gate.h"
 #include "fonts.h"
+#include "modal_runs.h"
 #include "native_window.h"
 #include "text_decoding.h"
 #include "window_widget.h"
@@ -75,12 +77,14 @@ struct EditField::Native {
     unsigned id;
     Rect place;
     EditStyle style;
-    QString text = {}; ///< what the program set last
+    QString text = {}; ///< what the field holds, or will when it is made
     bool enabled = true;
     bool made = false;
     QPointer<EditWidget> widget = {}; ///< gone with the parent's native window
 
     void make();
+    void show(const QString& newText);
+    void changed();
 };
 
 /// The toolkit's editor brings the fonts, which a start does without (10 ms).
@@ -95,8 +99,24 @@ void EditField::Native::make() {
     edit->setText(text);
     edit->setEnabled(enabled);
     edit->show();
-    QObject::connect(edit, &QLineEdit::textEdited, window, [window, number = id] {
-        window->call([number](Window& told) { told.OnEditChange(number); });
+    edit->setAccessibleName(decodeText(style.caption));
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [this] { changed(); });
+}
+
+void EditField::Native::show(const QString& newText) {
+    text = newText;
+    if (widget) widget->setText(text);
+}
+
+/// By the user: what the program sets is `text` already. Assistive technology changes the text without any
+/// key, also where the user has no way to the field.
+void EditField::Native::changed() {
+    const QString entered = widget->text();
+    if (entered == text) return;
+    if (isShutOut(parent) || !widget->isEnabled()) return show(QString(text));
+    text = entered;
+    EventGate::instance().enter([window = QPointer<WindowWidget>(&widget->parentWindow()), number = id] {
+        if (window) window->call([number](Window& told) { told.OnEditChange(number); });
     });
 }
 
@@ -119,8 +139,7 @@ std::string EditField::text() const {
 }
 
 void EditField::setText(const std::string& text) {
-    m_native->text = decodeText(text);
-    if (m_native->widget) m_native->widget->setText(m_native->text);
+    m_native->show(decodeText(text));
 }
 
 void EditField::setVisible(bool visible) {

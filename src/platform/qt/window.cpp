@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QWindow>
 
+#include "accessible_press.h"
 #include "activation.h"
 #include "convert.h"
 #include "event_gate.h"
@@ -116,7 +117,7 @@ Point Window::toClient(Point screen) const {
 }
 
 Point Window::cursorPosition() const {
-    return toClient(fromQt(QCursor::pos()));
+    return toClient(assistedPointer().value_or(fromQt(QCursor::pos())));
 }
 
 void Window::moveTo(Point screen) {
@@ -309,6 +310,12 @@ void Window::OnDestroy() {}
 LResult Window::OnMessage(Message, WParam, LParam) {
     return 0;
 }
+
+AccessibleFace Window::accessibleFace() const {
+    return {.name = programTitle};
+}
+
+void Window::OnAccessibleValue(unsigned, int) {}
 
 void Window::OnClose() {
     if (runsModally(*this)) {

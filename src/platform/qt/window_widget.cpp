@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "accessibility.h"
 #include "activation.h"
 #include "convert.h"
 #include "event_gate.h"
@@ -153,6 +154,7 @@ void WindowWidget::paintEvent(QPaintEvent* event) {
     QtCanvas canvas(painter);
     call([&](Window& window) { window.OnPaint(canvas, fromQt(event->rect())); });
     notePaint();
+    tellOfChanges(*this);
 }
 
 void WindowWidget::setTimer(unsigned id, int milliseconds) {
@@ -262,6 +264,7 @@ void WindowWidget::keyReleaseEvent(QKeyEvent* event) {
 
 void WindowWidget::hideEvent(QHideEvent*) {
     m_pointer.windowHidden();
+    tellOfEnd(*this);
 }
 
 void WindowWidget::closeEvent(QCloseEvent* event) {

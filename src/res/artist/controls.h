@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 
+#include "artist/shapes.h"
 #include "skin/control_table.h"
 
 namespace tarnix::art {
@@ -17,6 +18,11 @@ const ControlRow& controlOf(const Table& table, unsigned id) {
 template <typename Table>
 Rect placeOf(const Table& table, unsigned id) {
     return controlOf(table, id).rect;
+}
+
+/// A text of the layout, in the small type of explanations.
+inline void setHint(QPainter& p, const PaintedText& hint, Type type = Type::Caption) {
+    setText(p, rectF(hint.place), QString::fromLatin1(hint.text), type, palette::mist, Qt::AlignLeft);
 }
 
 } // namespace tarnix::art

@@ -13,16 +13,16 @@ Size frameOf(const ControlRow& row) {
 
 void paintOk(Sheet& sheet, const ControlRow& row) {
     sheet.keyedStrip(static_cast<unsigned>(row.region.bitmap), frameOf(row), dialogFootGround,
-                     dialogFootGround, [](QPainter& p, const QRectF& area, int frame) {
-                         button(p, area, QStringLiteral("OK"), ButtonLook::Main, Frame(frame),
+                     dialogFootGround, [&row](QPainter& p, const QRectF& area, int frame) {
+                         button(p, area, QString::fromLatin1(row.caption), ButtonLook::Main, Frame(frame),
                                 area.height() > 30 ? Type::Button : Type::Small);
                      });
 }
 
 void paintCancel(Sheet& sheet, const ControlRow& row) {
     sheet.keyedStrip(static_cast<unsigned>(row.region.bitmap), frameOf(row), dialogFootGround,
-                     dialogFootGround, [](QPainter& p, const QRectF& area, int frame) {
-                         button(p, area, QStringLiteral("Cancel"), ButtonLook::Quiet, Frame(frame),
+                     dialogFootGround, [&row](QPainter& p, const QRectF& area, int frame) {
+                         button(p, area, QString::fromLatin1(row.caption), ButtonLook::Quiet, Frame(frame),
                                 area.height() > 30 ? Type::Button : Type::Small);
                      });
 }

@@ -21,40 +21,22 @@ void paintNotice(Sheet& sheet) {
     });
 }
 
-struct Confirmation {
-    unsigned background;
-    const char* title;
-    const char* question;
-    const char* lines[3];
-};
-
-constexpr Confirmation confirmations[] = {
-    {dialog::reset::profileBackground,
-     "Reset profile",
-     "Reset this profile to its factory settings?",
-     {"Its key functions, lighting, G-keys and name are lost,", "here and on the keyboard.",
-      "This cannot be undone."}},
-    {dialog::reset::factoryBackground,
-     "Restore all",
-     "Restore all factory settings?",
-     {"Everything in profiles 1 to 3 is lost, here and on the keyboard,", "and your macros are deleted.",
-      "This cannot be undone."}},
-};
-
-void paintConfirmation(Sheet& sheet, const Confirmation& row) {
+void paintQuestion(Sheet& sheet, const dialog::reset::Question& row) {
     sheet.face(row.background, dialog::wideSize, [&row](QPainter& p) {
-        const double width = dialog::wideSize.width;
         paintDialogFrame(p, dialog::wideSize, QString::fromLatin1(row.title),
                          footOf(dialog::reset::controls));
-        paintNoticeSign(p, QPointF(width / 2, 57), NoticeSign::Question);
-        setText(p, QRectF(0, 79, width, 24), QString::fromLatin1(row.question), Type::Heading,
-                palette::paper);
-        double y = 106;
-        for (const char* line : row.lines) {
-            setText(p, QRectF(0, y, width, 20), QString::fromLatin1(line), Type::Body, palette::mist);
-            y += 20;
+        paintNoticeSign(p, QPointF(dialog::wideSize.width / 2.0, 57), NoticeSign::Question);
+        for (const PaintedText& line : row.texts) {
+            const bool first = &line == &row.texts.front();
+            setText(p, rectF(line.place), QString::fromLatin1(line.text), first ? Type::Heading : Type::Body,
+                    first ? palette::paper : palette::mist);
         }
     });
+}
+
+/// A box or button's caption right of it.
+void captionBeside(QPainter& p, const ControlRow& box, Type type = Type::Label, double gap = 8) {
+    labelBeside(p, box.rect, QString::fromLatin1(box.caption), type, gap);
 }
 
 // The program sets its labels at the top of their rectangles, so the fields around them end where the lines
@@ -63,12 +45,12 @@ void paintConfirmation(Sheet& sheet, const Confirmation& row) {
 void paintKeyMap(Sheet& sheet) {
     using namespace dialog::keymap;
     sheet.face(background, dialog::wideSize, [](QPainter& p) {
-        paintDialogFrame(p, dialog::wideSize, QStringLiteral("Key function"), footOf(controls));
-        const Rect name = placeOf(controls, keyName);
-        setText(p, QRectF(93, name.top - 2, 70, 20), QStringLiteral("Key"), Type::Label, palette::paper,
-                Qt::AlignLeft);
-        labelBeside(p, placeOf(controls, keyRadio), QStringLiteral("Keyboard function"));
-        labelBeside(p, placeOf(controls, mouseRadio), QStringLiteral("Mouse function"));
+        paintDialogFrame(p, dialog::wideSize, QString::fromLatin1(title), footOf(controls));
+        const ControlRow& name = controlOf(controls, keyName);
+        setText(p, QRectF(93, name.rect.top - 2, 70, 20), QString::fromLatin1(name.caption), Type::Label,
+                palette::paper, Qt::AlignLeft);
+        captionBeside(p, controlOf(controls, keyRadio));
+        captionBeside(p, controlOf(controls, mouseRadio));
         const QRectF value = rectF(placeOf(controls, keyFunction));
         plate(p, value.adjusted(-1, -6, 1, 0), 5, palette::sagePale, palette::sage);
     });
@@ -77,16 +59,14 @@ void paintKeyMap(Sheet& sheet) {
 void paintShortcut(Sheet& sheet) {
     using namespace dialog::shortcut;
     sheet.shapedFace(background, size, dialogCornerRadius, [](QPainter& p) {
-        paintDialogFrame(p, size, QStringLiteral("Shortcut"), footOf(controls), dialogCornerRadius);
-        setText(p, QRectF(22, 46, 376, 20), QStringLiteral("Choose the modifiers, then press the key."),
-                Type::Body, palette::mist, Qt::AlignLeft);
-        for (const auto& [box, words] :
-             {std::pair{singleKey, "Single"}, std::pair{ctrl, "Ctrl"},
-              std::pair{dialog::shortcut::shift, "Shift"}, std::pair{alt, "Alt"}, std::pair{win, "Win"}})
-            labelBeside(p, placeOf(controls, box), QString::fromLatin1(words), Type::Caption, 5);
-        const QRectF key = rectF(placeOf(controls, keyName));
-        setText(p, QRectF(key.left() - 4, key.top() - 23, 100, 18), QStringLiteral("Key"), Type::Caption,
-                palette::mist, Qt::AlignLeft);
+        paintDialogFrame(p, size, QString::fromLatin1(title), footOf(controls), dialogCornerRadius);
+        setHint(p, texts[0], Type::Body);
+        for (const ControlRow& control : controls)
+            if (control.kind == ControlKind::Check) captionBeside(p, control, Type::Caption, 5);
+        const ControlRow& keyRow = controlOf(controls, keyName);
+        const QRectF key = rectF(keyRow.rect);
+        setText(p, QRectF(key.left() - 4, key.top() - 23, 100, 18), QString::fromLatin1(keyRow.caption),
+                Type::Caption, palette::mist, Qt::AlignLeft);
         paintDarkField(p, key.adjusted(-5, -3, 3, 1));
     });
 }
@@ -94,37 +74,36 @@ void paintShortcut(Sheet& sheet) {
 void paintQuickLaunch(Sheet& sheet) {
     using namespace dialog::launch;
     sheet.shapedFace(background, size, dialogCornerRadius, [](QPainter& p) {
-        paintDialogFrame(p, size, QStringLiteral("Quick launch"), footOf(controls), dialogCornerRadius);
-        const QRectF field = rectF(placeOf(controls, path));
-        setText(p, QRectF(field.left() - 4, field.top() - 26, 240, 18), QStringLiteral("Program"),
+        paintDialogFrame(p, size, QString::fromLatin1(title), footOf(controls), dialogCornerRadius);
+        const ControlRow& program = controlOf(controls, path);
+        const QRectF field = rectF(program.rect);
+        setText(p, QRectF(field.left() - 4, field.top() - 26, 240, 18), QString::fromLatin1(program.caption),
                 Type::Caption, palette::mist, Qt::AlignLeft);
         paintDarkField(p, field.adjusted(-5, -2, 1, 0));
-        setText(p, QRectF(field.left() - 4, field.bottom() + 14, 260, 18),
-                QStringLiteral("The G-key starts this program."), Type::Caption, palette::mist,
-                Qt::AlignLeft);
+        setHint(p, texts[0]);
     });
 }
 
 /// The form copies only the top left of the notices' button strips. The rest of a button, as far as there is
 /// room for it, stands in the background, so that the two together are a whole one.
-void completeButton(QPainter& p, const Rect& place, double room, const QString& word, ButtonLook look) {
+void completeButton(QPainter& p, const ControlRow& row, double room, ButtonLook look) {
     const Rect whole = placeOf(dialog::notice::controls, dialog::okButton);
-    const QRectF area(place.left, place.top, whole.width(), whole.height());
+    const QRectF area(row.rect.left, row.rect.top, whole.width(), whole.height());
     const QRectF shown(area.left(), area.top(), std::min(room, area.width()), area.height());
     button(p, shown, QString(), look, Frame::Rest, Type::Button);
     p.save();
     p.setClipRect(shown.adjusted(8, 4, -2, -4));
-    button(p, area, word, look, Frame::Rest, Type::Button);
+    button(p, area, QString::fromLatin1(row.caption), look, Frame::Rest, Type::Button);
     p.restore();
 }
 
 void paintEditProfile(Sheet& sheet) {
     using namespace dialog::profile;
     sheet.face(background, size, [](QPainter& p) {
-        paintDialogFrame(p, size, QStringLiteral("Edit profile"), footOf(controls));
+        paintDialogFrame(p, size, QString::fromLatin1(title), footOf(controls));
         const QRectF name = rectF(nameFieldRect);
-        setText(p, QRectF(30, name.top() - 2, 80, 20), QStringLiteral("Name"), Type::Label, palette::paper,
-                Qt::AlignLeft);
+        setText(p, QRectF(30, name.top() - 2, 80, 20), QString::fromLatin1(nameCaption), Type::Label,
+                palette::paper, Qt::AlignLeft);
         paintDarkField(p, name.adjusted(-4, -3, 4, 3), QColor(0, 0, 0));
         const QRectF first = rectF(placeOf(controls, path1));
         setText(p, QRectF(30, first.top() - 25, 200, 18), QStringLiteral("Programs"), Type::Label,
@@ -132,10 +111,10 @@ void paintEditProfile(Sheet& sheet) {
         for (unsigned row : {path1, path2, path3})
             paintDarkField(p, rectF(placeOf(controls, row)).adjusted(-4, -1, 1, -1.5));
         paintWordmark(p, QRectF(350, 92, 150, 100));
-        const Rect ok = placeOf(controls, dialog::okButton);
-        const Rect cancel = placeOf(controls, dialog::cancelButton);
-        completeButton(p, ok, cancel.left - ok.left, QStringLiteral("OK"), ButtonLook::Main);
-        completeButton(p, cancel, size.width, QStringLiteral("Cancel"), ButtonLook::Quiet);
+        const ControlRow& ok = controlOf(controls, dialog::okButton);
+        const ControlRow& cancel = controlOf(controls, dialog::cancelButton);
+        completeButton(p, ok, cancel.rect.left - ok.rect.left, ButtonLook::Main);
+        completeButton(p, cancel, size.width, ButtonLook::Quiet);
     });
 }
 
@@ -143,8 +122,8 @@ void paintEditProfile(Sheet& sheet) {
 
 void paintDialogFaces(Sheet& sheet) {
     paintNotice(sheet);
-    for (const Confirmation& row : confirmations)
-        paintConfirmation(sheet, row);
+    paintQuestion(sheet, dialog::reset::profileReset);
+    paintQuestion(sheet, dialog::reset::factoryReset);
     paintKeyMap(sheet);
     paintShortcut(sheet);
     paintQuickLaunch(sheet);

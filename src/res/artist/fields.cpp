@@ -64,7 +64,9 @@ void paintRecordSwitch(QPainter& p, const QRectF& area, int index) {
     else
         p.drawEllipse(lamp, 5, 5);
     setText(p, QRectF(body.left() + 28, body.top(), body.width() - 32, body.height()),
-            state.checked ? QStringLiteral("Stop") : QStringLiteral("Record"), Type::Button,
+            state.checked ? QStringLiteral("Stop")
+                          : QString::fromLatin1(controlOf(macroPageControls, id::recordSwitch).caption),
+            Type::Button,
             state.disabled  ? mist
             : state.checked ? ink
                             : paper,
@@ -141,8 +143,9 @@ void paintFields(Sheet& sheet) {
     sheet.strip(browse.image, browse.rect.size(), picture::buttonFrames, paintBrowse);
     const ControlRow& own = controlOf(dialog::keymap::controls, dialog::keymap::ownFunction);
     sheet.strip(own.image, own.rect.size(), picture::buttonFrames,
-                [](QPainter& p, const QRectF& area, int frame) {
-                    button(p, area, QStringLiteral("Default"), ButtonLook::Quiet, Frame(frame), Type::Small);
+                [&own](QPainter& p, const QRectF& area, int frame) {
+                    button(p, area, QString::fromLatin1(own.caption), ButtonLook::Quiet, Frame(frame),
+                           Type::Small);
                 });
     sheet.strip(
         picture::scrollUp, picture::scrollArrowSize, picture::buttonFrames,

@@ -13,31 +13,30 @@ namespace {
 
 struct Wording {
     unsigned control;
-    const char* word;
     ButtonLook look;
     Type type;
 };
 
 constexpr std::array<Wording, 12> wordings{{
-    {id::keyPageTab, "Key settings", ButtonLook::Tab, Type::Button},
-    {id::macroPageTab, "Macros", ButtonLook::Tab, Type::Button},
-    {id::gKeyPageTab, "G-keys", ButtonLook::Tab, Type::Button},
-    {id::lightingPageTab, "Lighting", ButtonLook::Tab, Type::Button},
-    {id::okButton, "OK", ButtonLook::Main, Type::Small},
-    {id::applyButton, "Apply", ButtonLook::Main, Type::Small},
-    {id::cancelButton, "Cancel", ButtonLook::Quiet, Type::Small},
-    {id::profileTab1, "Profile 1", ButtonLook::Tab, Type::Button},
-    {id::profileTab2, "Profile 2", ButtonLook::Tab, Type::Button},
-    {id::profileTab3, "Profile 3", ButtonLook::Tab, Type::Button},
-    {id::resetButton, "Reset profile", ButtonLook::Careful, Type::Small},
-    {id::restoreButton, "Restore all", ButtonLook::Careful, Type::Small},
+    {id::keyPageTab, ButtonLook::Tab, Type::Button},
+    {id::macroPageTab, ButtonLook::Tab, Type::Button},
+    {id::gKeyPageTab, ButtonLook::Tab, Type::Button},
+    {id::lightingPageTab, ButtonLook::Tab, Type::Button},
+    {id::okButton, ButtonLook::Main, Type::Small},
+    {id::applyButton, ButtonLook::Main, Type::Small},
+    {id::cancelButton, ButtonLook::Quiet, Type::Small},
+    {id::profileTab1, ButtonLook::Tab, Type::Button},
+    {id::profileTab2, ButtonLook::Tab, Type::Button},
+    {id::profileTab3, ButtonLook::Tab, Type::Button},
+    {id::resetButton, ButtonLook::Careful, Type::Small},
+    {id::restoreButton, ButtonLook::Careful, Type::Small},
 }};
 
 constexpr std::array<Wording, 4> macroWordings{{
-    {id::macroButton1, "New", ButtonLook::Main, Type::Small},
-    {id::macroButton2, "Delete", ButtonLook::Careful, Type::Small},
-    {id::macroButton3, "Import", ButtonLook::Quiet, Type::Small},
-    {id::macroButton4, "Export", ButtonLook::Quiet, Type::Small},
+    {id::macroButton1, ButtonLook::Main, Type::Small},
+    {id::macroButton2, ButtonLook::Careful, Type::Small},
+    {id::macroButton3, ButtonLook::Quiet, Type::Small},
+    {id::macroButton4, ButtonLook::Quiet, Type::Small},
 }};
 
 /// Buttons that are `room` pixels high at most, at the top of their rectangles.
@@ -48,10 +47,10 @@ void paintWorded(Sheet& sheet, const Table& table, const std::array<Wording, cou
         const ControlRow& control = controlOf(table, row.control);
         sheet.strip(
             control.image, control.rect.size(), picture::buttonFrames,
-            [&row, room](QPainter& p, const QRectF& area, int frame) {
+            [&, room](QPainter& p, const QRectF& area, int frame) {
                 const QRectF part(area.left(), area.top(), area.width(), std::min(area.height(), room));
                 const double margin = part.height() > 30 ? 2 : 1;
-                button(p, part, QString::fromLatin1(row.word), row.look, Frame(frame), row.type, margin);
+                button(p, part, QString::fromLatin1(control.caption), row.look, Frame(frame), row.type, margin);
             });
     }
 }

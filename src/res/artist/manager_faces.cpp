@@ -3,6 +3,7 @@
 #include "artist/step_signs.h"
 #include "artist/subjects.h"
 #include "macro_manager/manager_layout.h"
+#include "skin/step_words.h"
 
 namespace tarnix::art {
 
@@ -24,18 +25,15 @@ struct StepSign {
     const char* words;
 };
 
-constexpr StepSign stepSigns[] = {
-    {paintStepPress, "Key pressed"}, {paintStepRelease, "Key released"}, {paintStepDelay, "Delay"}};
+constexpr StepSign stepSigns[] = {{paintStepPress, stepWords::press},
+                                  {paintStepRelease, stepWords::release},
+                                  {paintStepDelay, stepWords::delay}};
 
 /// How a recording goes, and what the signs in the list of steps mean.
-void paintHints(QPainter& p, double left, double top) {
-    double y = top;
-    for (const char* line : {"Choose a macro, press", "Record, type the keys,", "then press Stop."}) {
-        setText(p, QRectF(left, y, 200, 18), QString::fromLatin1(line), Type::Caption, palette::mist,
-                Qt::AlignLeft);
-        y += 18;
-    }
-    y += 16;
+void paintHints(QPainter& p, double left) {
+    for (const PaintedText& line : managerTexts)
+        setHint(p, line);
+    double y = managerTexts.back().place.bottom + 16;
     for (const auto& [sign, words] : stepSigns) {
         sign(p, QRectF(left, y, 14, 14));
         setText(p, QRectF(left + 24, y - 2, 160, 18), QString::fromLatin1(words), Type::Caption,
@@ -46,10 +44,10 @@ void paintHints(QPainter& p, double left, double top) {
 
 void paintManager(Sheet& sheet) {
     sheet.face(managerBackground, managerSize, [](QPainter& p) {
-        paintDialogFrame(p, managerSize, QStringLiteral("Macro manager"),
+        paintDialogFrame(p, managerSize, QString::fromLatin1(managerTitle),
                          placeOf(managerControls, okButton).top - 9);
-        const QRectF field = rectF(placeOf(managerControls, setField));
-        columnTitle(p, field.left(), field.top() - 23, QStringLiteral("Macro set"));
+        const ControlRow& set = controlOf(managerControls, setField);
+        columnTitle(p, set.rect.left, set.rect.top - 23, QString::fromLatin1(set.caption));
         listFrame(p, macroListRect, placeOf(managerControls, macroScrollBar));
     });
     sheet.face(managerPanel, managerPanelRect.size(), [](QPainter& p) {
@@ -58,39 +56,23 @@ void paintManager(Sheet& sheet) {
               palette::line);
         p.translate(-managerPanelRect.left, -managerPanelRect.top);
         const Rect& list = actionListRect;
-        columnTitle(p, list.left, list.top - 27, QStringLiteral("Steps"));
+        columnTitle(p, list.left, list.top - 27, QString::fromLatin1(actionListCaption));
         listFrame(p, list, placeOf(managerControls, actionScrollBar));
         const Rect record = placeOf(managerControls, recordSwitch);
         columnTitle(p, record.left, record.top - 27, QStringLiteral("Recording"));
-        labelBeside(p, placeOf(managerControls, recordDelays), QStringLiteral("Record delays"),
-                    Type::Caption);
-        paintHints(p, record.left, placeOf(managerControls, recordDelays).bottom + 30);
+        const ControlRow& delays = controlOf(managerControls, recordDelays);
+        labelBeside(p, delays.rect, QString::fromLatin1(delays.caption), Type::Caption);
+        paintHints(p, record.left);
     });
 }
-
-struct Companion {
-    unsigned background;
-    const char* title;
-    const char* words;
-};
-
-constexpr Companion setNameFaces[] = {
-    {addSetBackground, "Add a macro set", "Name of the new set"},
-    {deleteSetBackground, "Delete a macro set", "Name of the set to delete"},
-};
-
-constexpr Companion noticeFaces[] = {
-    {noteBackground, "Macro set", "Please choose a macro set or macro first."},
-    {attentionBackground, "Macro", "Please choose a macro first."},
-};
 
 void paintSetName(Sheet& sheet, const Companion& row) {
     sheet.face(row.background, companionSize, [&row](QPainter& p) {
         paintDialogFrame(p, companionSize, QString::fromLatin1(row.title),
                          placeOf(setNameControls, okButton).top - 9);
         const QRectF field = rectF(setNameRect);
-        setText(p, QRectF(field.left() - 2, field.top() - 28, 240, 20), QString::fromLatin1(row.words),
-                Type::Label, palette::paper, Qt::AlignLeft);
+        setText(p, rectF(row.text.place), QString::fromLatin1(row.text.text), Type::Label, palette::paper,
+                Qt::AlignLeft);
         paintDarkField(p, field.adjusted(-4, -3, 4, 3),
                        QColor(redOf(setNameGround), greenOf(setNameGround), blueOf(setNameGround)));
     });
@@ -102,7 +84,7 @@ void paintNoticeFace(Sheet& sheet, const Companion& row) {
         paintDialogFrame(p, companionSize, QString::fromLatin1(row.title),
                          placeOf(noticeControls, okButton).top - 9);
         paintNoticeSign(p, QPointF(width / 2, 72), NoticeSign::Attention);
-        setText(p, QRectF(0, 106, width, 22), QString::fromLatin1(row.words), Type::Label, palette::paper);
+        setText(p, rectF(row.text.place), QString::fromLatin1(row.text.text), Type::Label, palette::paper);
     });
 }
 
@@ -110,10 +92,10 @@ void paintNoticeFace(Sheet& sheet, const Companion& row) {
 
 void paintManagerFaces(Sheet& sheet) {
     paintManager(sheet);
-    for (const Companion& row : setNameFaces)
-        paintSetName(sheet, row);
-    for (const Companion& row : noticeFaces)
-        paintNoticeFace(sheet, row);
+    paintSetName(sheet, addSet);
+    paintSetName(sheet, deleteSet);
+    paintNoticeFace(sheet, note);
+    paintNoticeFace(sheet, attention);
 }
 
 } // namespace tarnix::art

@@ -28,9 +28,8 @@ double legendEntry(QPainter& p, double right, double y, const QColor& fill, cons
 
 void paintKeyPage(QPainter& p) {
     paintCase(p);
+    setHint(p, keyPageHint);
     const double y = 455;
-    setText(p, QRectF(53, y - 9, 300, 18), QStringLiteral("Click a key to give it another function."),
-            Type::Caption, palette::mist, Qt::AlignLeft);
     const double x =
         legendEntry(p, 751, y, palette::spring, palette::springLight, QStringLiteral("Remapped"));
     legendEntry(p, x, y, palette::sage, palette::sagePale, QStringLiteral("As printed"));
@@ -42,18 +41,18 @@ void listFrame(QPainter& p, const Rect& list, const Rect& bar) {
 }
 
 void paintMacroPage(QPainter& p) {
-    groupHeading(p, rectF(macroListRect), QStringLiteral("Macros"));
+    groupHeading(p, rectF(macroListRect), QString::fromLatin1(macroListCaption));
     listFrame(p, macroListRect, placeOf(macroPageScrollBars, id::macroScrollBar));
-    groupHeading(p, rectF(actionListRect), QStringLiteral("Steps"));
+    groupHeading(p, rectF(actionListRect), QString::fromLatin1(actionListCaption));
     listFrame(p, actionListRect, placeOf(macroPageScrollBars, id::actionScrollBar));
     const Rect record = placeOf(macroPageControls, id::recordSwitch);
     groupHeading(p, rectF({record.left, macroListRect.top, record.right, record.bottom}),
                  QStringLiteral("Recording"));
-    for (const auto& [control, words] :
-         {std::pair{id::delayCheck, "Record delays"}, std::pair{id::loopCheck, "Loop"}}) {
-        const QRectF box = rectF(placeOf(macroPageControls, control));
-        setText(p, QRectF(box.right() + 7, box.top() - 2, 100, box.height() + 4), QString::fromLatin1(words),
-                Type::Caption, palette::paper, Qt::AlignLeft);
+    for (const unsigned id : {id::delayCheck, id::loopCheck}) {
+        const ControlRow& check = controlOf(macroPageControls, id);
+        const QRectF box = rectF(check.rect);
+        setText(p, QRectF(box.right() + 7, box.top() - 2, 100, box.height() + 4),
+                QString::fromLatin1(check.caption), Type::Caption, palette::paper, Qt::AlignLeft);
     }
     const QRectF field = rectF(loopCountFieldRect);
     plate(p, field.adjusted(-2, -2, 2, 2), 4, QColor(255, 255, 255), palette::lineBright);
@@ -76,22 +75,20 @@ void paintBeside(QPainter& p, const QPointF& centre, double scale, void (*paintK
 void paintGKeyPage(QPainter& p) {
     groupHeading(p, rectF(gKeyFields[0].rect).translated(53 - gKeyFields[0].rect.left, 0),
                  QStringLiteral("Functions of the G-keys"));
-    for (std::size_t i = 0; i < gKeyFields.size(); ++i) {
-        const QRectF field = rectF(gKeyFields[i].rect);
-        setText(p, QRectF(53, field.top(), 80, field.height()), QStringLiteral("G-key %1").arg(i + 1),
-                Type::Label, palette::paper, Qt::AlignLeft);
+    for (const ControlRow& row : gKeyFields) {
+        const QRectF field = rectF(row.rect);
+        setText(p, QRectF(53, field.top(), 80, field.height()), QString::fromLatin1(row.caption), Type::Label,
+                palette::paper, Qt::AlignLeft);
     }
     paintBeside(p, QPointF(552, 312), 0.5, paintRestingKeyboard);
 }
 
 void paintLightingPage(QPainter& p) {
-    constexpr const char* headings[] = {"Effect", "Brightness", "Speed"};
-    for (std::size_t i = 0; i < lightingFields.size(); ++i)
-        groupHeading(p, rectF(lightingFields[i].rect), QString::fromLatin1(headings[i]));
+    for (const ControlRow& field : lightingFields)
+        groupHeading(p, rectF(field.rect), QString::fromLatin1(field.caption));
     p.fillRect(QRectF(238, 190, 1, 268), palette::line);
     paintBeside(p, QPointF(502, 306), 0.71, paintLitKeyboard);
-    setText(p, QRectF(53, 446, 180, 18), QStringLiteral("Kept with each profile."), Type::Caption,
-            palette::mist, Qt::AlignLeft);
+    setHint(p, lightingPageHint);
 }
 
 /// A band: the window's face with the page's picture on it, in the band's own coordinates.

@@ -43,9 +43,7 @@ void paintCommandBar(QPainter& p) {
     const Rect ok = placeOf(commonControls, id::okButton);
     const QRectF bar(columnLeft - 16, ok.top - 8, columnRight - columnLeft + 32, ok.height() + 16);
     plate(p, bar, 9, palette::slate, palette::line);
-    setText(p, QRectF(columnLeft, bar.top(), 460, bar.height()),
-            QStringLiteral("Apply sends your changes to the keyboard; OK also closes the window."),
-            Type::Caption, palette::mist, Qt::AlignLeft);
+    setHint(p, commandHint);
 }
 
 void paintStage(QPainter& p) {

@@ -246,7 +246,7 @@ TEST_F(Gallery, MacroPage) {
         shot("macros-recording");
         bench.click(id::recordSwitch);
         bench.click(id::macroButton1);
-        bench.window->control<CEditShowList>(id::macroList)->editor()->setText("New one");
+        testing::typeText("New one");
         bench.window->OnMouseMove(0, {1, 1});
         shot("macros-naming");
     });
@@ -296,12 +296,11 @@ TEST_F(Gallery, QuickLaunch) {
 
 TEST_F(Gallery, NoticesAndConfirmations) {
     bench.run([&] {
-        for (const unsigned background :
-             {dialog::reset::profileBackground, dialog::reset::factoryBackground}) {
-            Opened<CFirmwareResetDlg> dialog(background, bench.window.get());
-            shot("reset-" + std::to_string(background));
+        for (const auto& question : {dialog::reset::profileReset, dialog::reset::factoryReset}) {
+            Opened<CFirmwareResetDlg> dialog(question, bench.window.get());
+            shot("reset-" + std::to_string(question.background));
             press(*dialog, dialog::okButton);
-            shot("reset-" + std::to_string(background) + "-pressed-ok");
+            shot("reset-" + std::to_string(question.background) + "-pressed-ok");
         }
         for (const std::string_view text :
              {notices::keyboardGone, notices::noMacroSet, notices::macroInUse, notices::nameTaken}) {

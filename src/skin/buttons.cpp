@@ -147,9 +147,7 @@ void CKeyboardButton::SetCurrentCode(std::uint8_t code) {
 void CKeyboardButton::describe(AccessibleItem& item) const {
     item.role = AccessibleRole::Button;
     item.name = "Key " + m_strKeyName;
-    if (!m_bRemapped) return;
-    const std::string_view function = keyFunctionName(m_nCurrentCode);
-    item.value = "assigned " + std::string(function.empty() ? "no function" : function) + ", changed";
+    if (m_bRemapped) item.value = "assigned " + std::string(keyFunctionName(m_nCurrentCode)) + ", changed";
 }
 
 int CKeyboardButton::frame() const {

@@ -5,7 +5,6 @@
 
 #include "profile/vocabulary.h"
 #include "skin/fonts.h"
-#include "skin/step_words.h"
 
 namespace tarnix {
 
@@ -50,13 +49,12 @@ void CRowList::Draw(Canvas& canvas, const Rect&) {
 void CRowList::describe(AccessibleItem& item) const {
     item.role = AccessibleRole::List;
     forEachShown([&](int index, const Rect& rect) {
-        AccessibleItem& row = item.rows.emplace_back();
-        row = {.number = static_cast<unsigned>(index),
-               .role = AccessibleRole::ListItem,
-               .rect = rect,
-               .disabled = m_bDisabled,
-               .selected = index == m_nSelected};
-        describeRow(row, index);
+        item.rows.push_back({.number = static_cast<unsigned>(index),
+                             .role = AccessibleRole::ListItem,
+                             .rect = rect,
+                             .name = text(index),
+                             .disabled = m_bDisabled,
+                             .selected = index == m_nSelected});
     });
 }
 
@@ -119,7 +117,12 @@ std::string CEditShowList::editorText() const {
 }
 
 void CEditShowList::drawRow(Canvas& canvas, int index, const Rect& row) {
-    canvas.drawText(shownSet()->keys[static_cast<std::size_t>(index)].name, row, colored(valueFont, white));
+    canvas.drawText(text(index), row, colored(valueFont, white));
+}
+
+std::string CEditShowList::text(int macro) const {
+    const MacroKey* key = findMacro(m_source, m_nSet, macro);
+    return key ? key->name : std::string();
 }
 
 void CEditShowList::pressed(Point at) {
@@ -138,10 +141,6 @@ void CEditShowList::finishName() {
         notifyOwner(NOTIFY_NAME_ADDED);
     }
     CloseEditor();
-}
-
-void CEditShowList::describeRow(AccessibleItem& row, int index) const {
-    row.name = shownSet()->keys[static_cast<std::size_t>(index)].name;
 }
 
 CImageShowList::CImageShowList(Window& owner, unsigned id, const Rect& rect, MacroLibrary& source,
@@ -184,14 +183,6 @@ void CImageShowList::drawRow(Canvas& canvas, int index, const Rect& row) {
     const Size size = m_release.frameSize();
     icon.draw(canvas, 0, Rect::at(row.left, row.top + 3, size.width, size.height));
     canvas.drawText(text(index), {row.left + 15, row.top, row.right, row.bottom}, colored(valueFont, white));
-}
-
-void CImageShowList::describeRow(AccessibleItem& row, int index) const {
-    const MacroAction& action = steps()[static_cast<std::size_t>(index)];
-    row.name = action.isDelay()     ? stepWords::delay
-               : action.isRelease() ? stepWords::release
-                                    : stepWords::press;
-    row.value = text(index);
 }
 
 } // namespace tarnix

@@ -22,6 +22,8 @@ class CRowList : public CMouseControl {
     void describe(AccessibleItem& item) const override;
     /// Number of items that there are to show.
     virtual int rowCount() const = 0;
+    /// What an item reads as; empty where there is none.
+    virtual std::string text(int index) const = 0;
 
     int m_nSelected = -1;   ///< index of the selected item, -1 for none
     int m_nVisibleRows = 0; ///< as many as the height holds, rounded to the nearest row
@@ -31,8 +33,6 @@ class CRowList : public CMouseControl {
     CRowList(Window& owner, unsigned id, const Rect& rect, std::string text, bool visible, bool disabled);
     /// Draws an item that there is.
     virtual void drawRow(Canvas& canvas, int index, const Rect& row) = 0;
-    /// Gives the name and the value of an item that there is.
-    virtual void describeRow(AccessibleItem& row, int index) const = 0;
     /// Where a line of the screen stands, counted from the top of the list.
     Rect rowRect(int line) const;
     void pressed(Point at) override;
@@ -70,10 +70,10 @@ class CEditShowList : public CRowList {
 
     int currentSet() const { return m_nSet; }
     int rowCount() const override;
+    std::string text(int macro) const override;
 
   protected:
     void drawRow(Canvas& canvas, int index, const Rect& row) override;
-    void describeRow(AccessibleItem& row, int index) const override;
     void pressed(Point at) override;
 
   private:
@@ -99,12 +99,10 @@ class CImageShowList : public CRowList {
     int shownSet() const { return m_nSet; }
     int shownMacro() const { return m_nMacro; }
     int rowCount() const override;
-    /// What a step reads as; empty where there is none.
-    std::string text(int step) const;
+    std::string text(int step) const override;
 
   protected:
     void drawRow(Canvas& canvas, int index, const Rect& row) override;
-    void describeRow(AccessibleItem& row, int index) const override;
 
   private:
     std::span<const MacroAction> steps() const;

@@ -19,6 +19,8 @@ class MouseRouter {
 
     /// The control under the pointer; none if there is none.
     CControlBase* hot() const { return m_hot; }
+    /// The control on which the button last went down; none if there is none.
+    const CControlBase* focus() const { return m_focus; }
     /// Takes the focus from the focus control unless that is the hot control.
     void dropFocus();
 

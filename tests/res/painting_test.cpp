@@ -83,7 +83,7 @@ TEST_F(Painting, StaysWithinTheRectangleOfEveryControlAndWindow) {
     CShortcutDlg shortcut(nullptr);
     CQuickLaunchDlg launch(bench.shell, nullptr);
     CEditProfileDlg profile(bench.shell);
-    CFirmwareResetDlg reset(dialog::reset::profileBackground);
+    CFirmwareResetDlg reset(dialog::reset::profileReset);
     CAttentionDlg notice(longText, longText);
     CMacroManagerDlg manager(nullptr, bench.files, "/kbd/", 1);
     CMacroManagerAddDlg add(*bench.window);

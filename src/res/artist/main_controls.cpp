@@ -45,13 +45,14 @@ void paintWorded(Sheet& sheet, const Table& table, const std::array<Wording, cou
                  double room = 100) {
     for (const Wording& row : words) {
         const ControlRow& control = controlOf(table, row.control);
-        sheet.strip(
-            control.image, control.rect.size(), picture::buttonFrames,
-            [&, room](QPainter& p, const QRectF& area, int frame) {
-                const QRectF part(area.left(), area.top(), area.width(), std::min(area.height(), room));
-                const double margin = part.height() > 30 ? 2 : 1;
-                button(p, part, QString::fromLatin1(control.caption), row.look, Frame(frame), row.type, margin);
-            });
+        sheet.strip(control.image, control.rect.size(), picture::buttonFrames,
+                    [&, room](QPainter& p, const QRectF& area, int frame) {
+                        const QRectF part(area.left(), area.top(), area.width(),
+                                          std::min(area.height(), room));
+                        const double margin = part.height() > 30 ? 2 : 1;
+                        button(p, part, QString::fromLatin1(control.caption), row.look, Frame(frame),
+                               row.type, margin);
+                    });
     }
 }
 

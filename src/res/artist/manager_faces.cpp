@@ -3,7 +3,6 @@
 #include "artist/step_signs.h"
 #include "artist/subjects.h"
 #include "macro_manager/manager_layout.h"
-#include "skin/step_words.h"
 
 namespace tarnix::art {
 
@@ -25,9 +24,8 @@ struct StepSign {
     const char* words;
 };
 
-constexpr StepSign stepSigns[] = {{paintStepPress, stepWords::press},
-                                  {paintStepRelease, stepWords::release},
-                                  {paintStepDelay, stepWords::delay}};
+constexpr StepSign stepSigns[] = {
+    {paintStepPress, "Key pressed"}, {paintStepRelease, "Key released"}, {paintStepDelay, "Delay"}};
 
 /// How a recording goes, and what the signs in the list of steps mean.
 void paintHints(QPainter& p, double left) {

@@ -1,16 +1,19 @@
-// What windows and controls paint with the real pictures: nothing beyond their rectangles, and texts in fixed
-// colours on fixed grounds, whose contrast is noted.
+// What the real pictures, controls and windows look like: words stand out from their ground, and nothing is
+// painted beyond its rectangle.
 #include <gtest/gtest.h>
 
-#include <array>
+#include <algorithm>
+#include <cmath>
+#include <fstream>
 #include <iostream>
+#include <map>
 
 #include "../ui/main_window_bench.h"
 #include "app/osd_dialog.h"
-#include "contrast.h"
 #include "macro/macro_files.h"
 #include "macro_manager/companion_dlgs.h"
 #include "macro_manager/manager_dlg.h"
+#include "platform/resources.h"
 #include "skin/static_text.h"
 #include "ui/attention_dlg.h"
 #include "ui/dialog_layouts.h"
@@ -23,39 +26,77 @@
 namespace tarnix {
 namespace {
 
-constexpr Color ground = rgb(1, 2, 3);
+constexpr double enough = 4.5;
+constexpr Color plain = rgb(1, 2, 3);
 constexpr int around = 30;
 const std::string longText(60, 'W');
 
-/// How many pixels around an area have lost the ground's colour.
+/// Relative luminance as WCAG 2.1 defines it.
+double luminance(Color color) {
+    const auto linear = [](int value) {
+        const double share = value / 255.0;
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(redOf(color)) + 0.7152 * linear(greenOf(color)) + 0.0722 * linear(blueOf(color));
+}
+
+/// Of a text in an area: its ground is the commonest colour there, the text what stands out most from it.
+double contrastIn(const Image& image, const Rect& area) {
+    std::map<Color, int> counts;
+    for (int y = std::max(area.top, 0); y < std::min(area.bottom, image.size().height); ++y)
+        for (int x = std::max(area.left, 0); x < std::min(area.right, image.size().width); ++x)
+            ++counts[image.pixel({x, y})];
+    const auto rarer = [](const auto& a, const auto& b) { return a.second < b.second; };
+    const double ground = luminance(std::max_element(counts.begin(), counts.end(), rarer)->first);
+    double most = 1;
+    for (const auto& [color, count] : counts) {
+        const auto [dark, light] = std::minmax({luminance(color), ground});
+        most = std::max(most, (light + 0.05) / (dark + 0.05));
+    }
+    return most;
+}
+
+std::unique_ptr<Surface> faceOf(Window& window) {
+    auto surface = makeSurface(window.clientRect().size());
+    window.OnPaint(surface->canvas(), window.clientRect());
+    return surface;
+}
+
+/// Paints on plain ground. How many pixels around the area are no longer plain?
 int stray(const std::function<void(Canvas&)>& paint, const Rect& area) {
-    const auto surface = makeSurface({area.right + around, area.bottom + around});
-    const Rect all = Rect::at(0, 0, area.right + around, area.bottom + around);
-    surface->canvas().fill(all, ground);
+    const Rect all{0, 0, area.right + around, area.bottom + around};
+    const auto surface = makeSurface(all.size());
+    surface->canvas().fill(all, plain);
     paint(surface->canvas());
     int count = 0;
     for (int y = std::max(area.top - around, 0); y < all.bottom; ++y)
         for (int x = std::max(area.left - around, 0); x < all.right; ++x)
-            count += !area.contains({x, y}) && surface->image().pixel({x, y}) != ground;
+            count += !area.contains({x, y}) && surface->image().pixel({x, y}) != plain;
     return count;
-}
-
-/// Texts that are too long, and every look that the pointer can give.
-void expectControlsInside(CDlgBase& window) {
-    window.controls().forEach([](CControlBase& control) {
-        if (auto* label = dynamic_cast<CStaticText*>(&control)) label->m_strLabel = longText;
-        if (auto* field = dynamic_cast<CComboButton*>(&control)) field->SetValueText(longText);
-        for (int state = mouseNormal; state <= mousePressed; ++state) {
-            if (auto* button = dynamic_cast<CMouseControl*>(&control)) button->m_nMouseState = state;
-            const auto paint = [&](Canvas& canvas) { control.Draw(canvas, control.GetRect()); };
-            EXPECT_EQ(stray(paint, control.GetRect()), 0) << control.m_nID << " in state " << state;
-        }
-    });
 }
 
 void expectInside(Window& window) {
     const Rect client = window.clientRect();
     EXPECT_EQ(stray([&](Canvas& canvas) { window.OnPaint(canvas, client); }, client), 0);
+}
+
+/// With texts that are too long, and in every look that the pointer can give.
+void expectTidy(CDlgBase& window) {
+    expectInside(window);
+    window.controls().forEach([&window](CControlBase& control) {
+        auto* label = dynamic_cast<CStaticText*>(&control);
+        auto* field = dynamic_cast<CComboButton*>(&control);
+        if (label) label->m_strLabel = longText;
+        if (field) field->SetValueText(longText);
+        const bool read = (label || field) && control.m_bVisible;
+        const Rect place = control.GetRect();
+        for (int state = mouseNormal; state <= mousePressed; ++state) {
+            if (auto* button = dynamic_cast<CMouseControl*>(&control)) button->m_nMouseState = state;
+            EXPECT_EQ(stray([&](Canvas& canvas) { control.Draw(canvas, place); }, place), 0) << control.m_nID;
+            EXPECT_GE(read ? contrastIn(faceOf(window)->image(), place.inset(2)) : 21, enough)
+                << control.m_nID;
+        }
+    });
 }
 
 class Painting : public ::testing::Test {
@@ -78,7 +119,25 @@ class Painting : public ::testing::Test {
     MainWindowBench bench;
 };
 
-TEST_F(Painting, StaysWithinTheRectangleOfEveryControlAndWindow) {
+TEST(Pictures, EveryWordInThemStandsOutFromItsGround) {
+    std::ifstream table(ART_WORDS);
+    std::string words;
+    unsigned id;
+    Rect area;
+    int lines = 0;
+    std::pair<double, std::string> lowest{21, ""};
+    for (int type; table >> type >> id >> area.left >> area.top >> area.right >> area.bottom; ++lines) {
+        std::getline(table, words);
+        const Image* image = resources().find(static_cast<ResourceType>(type), id);
+        const double found = contrastIn(*image, area.inset(-1));
+        EXPECT_GE(found, enough) << id << ":" << words;
+        lowest = std::min(lowest, {found, words});
+    }
+    EXPECT_GT(lines, 500);
+    std::cout << "lowest contrast of " << lines << " words: " << lowest.first << lowest.second << '\n';
+}
+
+TEST_F(Painting, KeepsToEveryRectangleAndIsReadable) {
     CKeyMapSettingDlg keyMap({2201, "F1", 0xC0, 0xC0}, nullptr);
     CShortcutDlg shortcut(nullptr);
     CQuickLaunchDlg launch(bench.shell, nullptr);
@@ -91,26 +150,21 @@ TEST_F(Painting, StaysWithinTheRectangleOfEveryControlAndWindow) {
     for (CDlgBase* dialog : std::initializer_list<CDlgBase*>{&keyMap, &shortcut, &launch, &profile, &reset,
                                                              &notice, &manager, &add, &note}) {
         ASSERT_TRUE(dialog->Create());
-        expectControlsInside(*dialog);
-        expectInside(*dialog);
+        expectTidy(*dialog);
     }
     for (const unsigned tab : {id::macroPageTab, id::gKeyPageTab, id::lightingPageTab, id::keyPageTab}) {
         clickAt(*bench.window, bench.window->GetControl(tab)->GetRect().topLeft());
-        expectInside(*bench.window);
+        expectTidy(*bench.window);
     }
-    expectControlsInside(*bench.window);
-    for (const auto& popup : {list<CComboPopup>(), list<CMacroLibraryPopup>(bench.macros),
-                              list<CMacroSetListPopup>(bench.macros), list<CLightModePopup>()})
+    for (const auto& popup : {list<CComboPopup>(), list<CMacroSetListPopup>(bench.macros)})
         expectInside(*popup);
     COSDDialog display(longText);
     expectInside(display);
 }
 
 TEST_F(Painting, NotesTheContrastOfTextsWhoseColoursAreFixed) {
-    const auto note = [this](const std::string& name, Window& window, const Rect& area) {
-        const auto surface = makeSurface(window.clientRect().size());
-        window.OnPaint(surface->canvas(), window.clientRect());
-        const double found = contrastIn(surface->image(), area);
+    const auto note = [](const std::string& name, Window& window, const Rect& area) {
+        const double found = contrastIn(faceOf(window)->image(), area);
         EXPECT_GT(found, 1.5) << name << " is not there";
         std::cout << name << ": " << found << '\n';
     };

@@ -70,17 +70,20 @@ const char* nameOf(ResourceType type) {
     return "";
 }
 
-/// A line for each line of text: picture, scale, place and words.
+/// What can be read at 100 %, line by line: type and number of the picture, left, top, right, bottom and
+/// words.
 QByteArray wordsOf(const std::vector<Picture>& pictures) {
     QString table;
     QTextStream out(&table);
-    for (const Picture& picture : pictures)
+    for (const Picture& picture : pictures) {
+        if (picture.scale != 1) continue;
         for (const PlacedLine& line : picture.lines) {
             const QRect area = line.area.toAlignedRect();
-            out << nameOf(picture.type) << ' ' << picture.id << ' ' << picture.scale << ' ' << area.left()
-                << ' ' << area.top() << ' ' << area.width() << ' ' << area.height() << ' ' << line.text
-                << '\n';
+            out << static_cast<int>(picture.type) << ' ' << picture.id << ' ' << area.left() << ' '
+                << area.top() << ' ' << area.left() + area.width() << ' ' << area.top() + area.height() << ' '
+                << line.text << '\n';
         }
+    }
     out.flush();
     return table.toUtf8();
 }

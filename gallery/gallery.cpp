@@ -247,6 +247,8 @@ TEST_F(Gallery, MacroPage) {
         bench.click(id::recordSwitch);
         bench.click(id::macroButton1);
         testing::typeText("New one");
+        testing::runUntil(
+            [&] { return bench.window->control<CEditShowList>(id::macroList)->editorText() == "New one"; });
         bench.window->OnMouseMove(0, {1, 1});
         shot("macros-naming");
     });

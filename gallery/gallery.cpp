@@ -70,6 +70,8 @@ void press(CDlgBase& window, unsigned control) {
 void releaseAway(CDlgBase& window) {
     window.OnLButtonUp(0, {1, 1});
     window.OnMouseMove(0, {1, 1});
+    testing::runUntil([] { return false; },
+                      Milliseconds(100)); // until the desktop has taken the pointer back
 }
 
 class Gallery : public ::testing::Test {

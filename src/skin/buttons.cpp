@@ -108,6 +108,8 @@ void CComboButton::Draw(Canvas& canvas, const Rect& clip) {
     if (shownText().empty()) return;
     canvas.drawText(shownText(), {m_rect.left + 4, m_rect.top + 1, m_rect.right, m_rect.bottom},
                     colored(valueFont, black));
+    const Rect arrow{m_rect.width() - arrowWidth, 5, m_rect.width() - 1, m_rect.height() - 5};
+    m_strip.drawPart(canvas, frame(), arrow, {m_rect.left + arrow.left, m_rect.top + arrow.top});
 }
 
 std::string_view CComboButton::shownText() const {

@@ -73,6 +73,9 @@ class CRadioButton : public CStripButton {
 /// hover, pressed, inactive, inactive under the pointer.
 class CComboButton : public CStripButton {
   public:
+    /// The arrow with the line before it, at the right end of the field: a long text goes below it.
+    static constexpr int arrowWidth = 25;
+
     /// A click sends (notifyMessage, id, NOTIFY_CLICK).
     CComboButton(Window& owner, Message notifyMessage, unsigned id, const Rect& rect,
                  std::string caption = {}, bool visible = true, bool disabled = false,

@@ -20,4 +20,10 @@ void ImageStrip::draw(Canvas& canvas, int frame, const Rect& target) const {
     canvas.draw(*m_image, Rect::at(frame * m_frame.width, 0, m_frame.width, m_frame.height), target);
 }
 
+void ImageStrip::drawPart(Canvas& canvas, int frame, const Rect& part, Point target) const {
+    if (!m_image || frame < 0 || frame >= m_frames) return;
+    canvas.draw(*m_image, part.moved(frame * m_frame.width, 0),
+                Rect::at(target.x, target.y, part.width(), part.height()));
+}
+
 } // namespace tarnix

@@ -21,6 +21,8 @@ class ImageStrip {
     Size frameSize() const { return m_frame; }
     /// Stretches a frame over the target; a frame that the strip does not have draws nothing.
     void draw(Canvas& canvas, int frame, const Rect& target) const;
+    /// Draws a part of a frame, given in the frame's coordinates, at its own size.
+    void drawPart(Canvas& canvas, int frame, const Rect& part, Point target) const;
 
   private:
     int m_frames;

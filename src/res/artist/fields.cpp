@@ -94,7 +94,7 @@ void paintCombo(QPainter& p, const QRectF& area, int index) {
     const QColor edges[] = {sage, spring, springDeep, moss, sage};
     const QColor face = faces[index];
     plate(p, area, 5, vertical(area, mixed(face, QColor(255, 255, 255), 0.25), face), edges[index]);
-    const double split = area.right() - 25;
+    const double split = area.right() - CComboButton::arrowWidth;
     p.fillRect(QRectF(split, area.top() + 5, 1, area.height() - 10), withAlpha(moss, 150));
     chevron(p, QPointF(split + 13, area.center().y() + 0.5), 3.6, Direction::Down, 1.7,
             index < inactive ? ink : mossDeep);

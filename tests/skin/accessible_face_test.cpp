@@ -14,18 +14,14 @@ using ::testing::ElementsAre;
 
 constexpr Rect place = Rect::at(20, 30, 40, 16);
 
-/// "name, value: states"; a row begins with a dash.
+/// "name, value: states"; a row begins with a dash. The states by their first letters.
 void write(std::vector<std::string>& lines, const std::vector<AccessibleItem>& items,
            const char* before = "") {
     for (const AccessibleItem& item : items) {
-        std::string line = before + item.name + (item.value.empty() ? "" : ", " + item.value) + ":";
-        for (const auto& [is, word] : {std::pair{item.disabled, " disabled"},
-                                       {item.checked, " checked"},
-                                       {item.selected, " selected"},
-                                       {item.expanded, " expanded"},
-                                       {item.focused, " focused"}})
-            if (is) line += word;
-        lines.push_back(line);
+        lines.push_back(before + item.name + (item.value.empty() ? ":" : ", " + item.value + ":"));
+        const bool states[] = {item.disabled, item.checked, item.selected, item.expanded};
+        for (std::size_t i = 0; i < std::size(states); ++i)
+            if (states[i]) lines.back() += "dcse"[i];
         write(lines, item.rows, "- ");
     }
 }
@@ -58,18 +54,13 @@ TEST_F(AccessibleFaceTest, ControlsTellWhatTheyShow) {
     dialog.make<CStaticText>(0, 4u, place, Color{}, 0u, "Key").m_strLabel = "A";
     auto& cap = make<CKeyboardButton>(2201, "");
     cap.SetKey("F1", 0xC0, 0xC0);
-    EXPECT_THAT(told(), ElementsAre("Check: disabled", "First: checked", "Second:", "Tab: selected",
+    EXPECT_THAT(told(), ElementsAre("Check:d", "First:c", "Second:", "Tab:s",
                                     "Field, CTRL+1:", "Text:", "Key, A:", "Key F1:"));
     selectRadio(2014);
-    combo.m_bOpen = true;
+    combo.m_bOpen = combo.m_bInactive = combo.m_bDisable = true;
     cap.SetCurrentCode(0xD6);
-    EXPECT_THAT(told(), ElementsAre("Check: disabled", "First:", "Second: checked", "Tab: selected",
-                                    "Field, CTRL+1: expanded",
+    EXPECT_THAT(told(), ElementsAre("Check:d", "First:", "Second:c", "Tab:s", "Field, Disable:de",
                                     "Text:", "Key, A:", "Key F1, assigned Fire, changed:"));
-    combo.m_bInactive = combo.m_bDisable = true;
-    cap.SetCurrentCode(0);
-    EXPECT_THAT(told(), ::testing::IsSupersetOf(
-                            {"Field, Disable: disabled expanded", "Key F1, assigned Undefined, changed:"}));
 }
 
 TEST_F(AccessibleFaceTest, AListTellsTheRowsOnTheScreenAndItsBarMovesThem) {
@@ -88,7 +79,7 @@ TEST_F(AccessibleFaceTest, AListTellsTheRowsOnTheScreenAndItsBarMovesThem) {
     macros.m_nFirstRow = 2;
     macros.m_nSelected = 3;
     steps.ShowMacro(0, 0);
-    EXPECT_THAT(told(), ElementsAre("Macros:", "- Three:", "- Four: selected",
+    EXPECT_THAT(told(), ElementsAre("Macros:", "- Three:", "- Four:s",
                                     "Steps:", "- A Press:", "- 20ms:", "- A Release:", "Bar:"));
     const AccessibleItem row = dialog.accessibleFace().items[0].rows[1];
     EXPECT_EQ(std::pair(row.number, row.rect), std::pair(3u, Rect::at(2, 20, 96, 20)));

@@ -6,7 +6,7 @@
 
 #include "macro_manager/manager_layout.h"
 #include "platform/resources.h"
-#include "res/resource_ids.h"
+#include "skin/picture_ids.h"
 #include "ui/dialog_layouts.h"
 #include "ui/main_window_layout.h"
 

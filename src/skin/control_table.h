@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "skin/buttons.h"
+#include "skin/picture_ids.h"
 
 namespace tarnix {
 
@@ -36,7 +37,11 @@ constexpr ControlRow checkButton(unsigned id, const Rect& rect, unsigned image, 
 }
 /// All radio buttons have one picture.
 constexpr ControlRow radioButton(unsigned id, const Rect& rect, const char* caption) {
-    return {.id = id, .kind = ControlKind::Radio, .rect = rect, .image = 400, .caption = caption};
+    return {.id = id,
+            .kind = ControlKind::Radio,
+            .rect = rect,
+            .image = picture::radioButton,
+            .caption = caption};
 }
 constexpr ControlRow comboButton(unsigned id, const Rect& rect, unsigned image, Message notify,
                                  const char* caption, const char* value = "") {

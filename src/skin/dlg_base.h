@@ -13,6 +13,7 @@
 #include "skin/control_table.h"
 #include "skin/message_map.h"
 #include "skin/mouse_router.h"
+#include "skin/picture_ids.h"
 #include "skin/popup_places.h"
 
 namespace tarnix {
@@ -20,7 +21,7 @@ namespace tarnix {
 class CDlgBase : public Window {
   public:
     static constexpr Size mainSize{805, 588};
-    static constexpr unsigned iconId = 381;
+    static constexpr unsigned iconId = picture::programIcon;
 
     /// The traits' role is the class's name.
     explicit CDlgBase(WindowTraits traits, Size size = mainSize);

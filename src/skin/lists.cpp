@@ -5,6 +5,7 @@
 
 #include "profile/vocabulary.h"
 #include "skin/fonts.h"
+#include "skin/picture_ids.h"
 
 namespace tarnix {
 
@@ -13,10 +14,6 @@ namespace {
 constexpr Color listColor = 0x261005;
 constexpr Color selectionColor = 0xDEA035;
 constexpr Color white = 0xFFFFFF;
-
-constexpr unsigned releaseIcon = 191;
-constexpr unsigned pressIcon = 192;
-constexpr unsigned delayIcon = 193;
 
 } // namespace
 
@@ -148,9 +145,9 @@ CImageShowList::CImageShowList(Window& owner, unsigned id, const Rect& rect, Mac
     : CRowList(owner, id, rect, std::move(text), visible, disabled), m_source(source) {}
 
 bool CImageShowList::LoadImages() {
-    const bool release = m_release.load(releaseIcon);
-    const bool press = m_press.load(pressIcon);
-    const bool delay = m_delay.load(delayIcon);
+    const bool release = m_release.load(picture::stepRelease);
+    const bool press = m_press.load(picture::stepPress);
+    const bool delay = m_delay.load(picture::stepDelay);
     return release && press && delay;
 }
 

@@ -1,4 +1,5 @@
 #include "skin/scroll_bar.h"
+#include "skin/picture_ids.h"
 
 #include <algorithm>
 #include <utility>
@@ -6,9 +7,6 @@
 namespace tarnix {
 
 namespace {
-
-constexpr unsigned upArrowImage = 188;
-constexpr unsigned downArrowImage = 187;
 
 constexpr Color barColor = 0xBDD7D0;
 constexpr Color thumbEdge = 0x1F1F1F;
@@ -33,8 +31,8 @@ CVScrollBar::CVScrollBar(Window& owner, unsigned id, const Rect& rect, std::stri
     : CMouseControl(owner, id, rect, std::move(text), visible, disabled) {}
 
 bool CVScrollBar::LoadImages() {
-    const bool up = m_upArrow.load(upArrowImage);
-    const bool down = m_downArrow.load(downArrowImage);
+    const bool up = m_upArrow.load(picture::scrollUp);
+    const bool down = m_downArrow.load(picture::scrollDown);
     const int height = m_downArrow.frameSize().height;
     const auto& [left, top, right, bottom] = m_rect;
     m_up = {left, top, right, top + height - 1};

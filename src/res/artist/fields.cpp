@@ -5,7 +5,7 @@
 #include "artist/step_signs.h"
 #include "artist/subjects.h"
 #include "macro_manager/manager_layout.h"
-#include "res/resource_ids.h"
+#include "skin/picture_ids.h"
 #include "ui/dialog_layouts.h"
 #include "ui/main_window_layout.h"
 
@@ -153,9 +153,6 @@ void paintFields(Sheet& sheet) {
     sheet.strip(
         picture::scrollDown, picture::scrollArrowSize, picture::buttonFrames,
         [](QPainter& p, const QRectF& a, int frame) { paintScrollArrow(p, a, frame, Direction::Down); });
-    sheet.strip(picture::popupFace, picture::popupFaceSize, 1, [](QPainter& p, const QRectF& area, int) {
-        plate(p, area, 1, palette::sage, palette::spring);
-    });
     paintStepIcon(sheet, picture::stepPress, paintStepPress);
     paintStepIcon(sheet, picture::stepRelease, paintStepRelease);
     paintStepIcon(sheet, picture::stepDelay, paintStepDelay);

@@ -1,6 +1,6 @@
 #include "artist/emblem.h"
 #include "artist/subjects.h"
-#include "res/resource_ids.h"
+#include "skin/picture_ids.h"
 
 namespace tarnix::art {
 

@@ -4,7 +4,7 @@
 #include "artist/controls.h"
 #include "artist/shapes.h"
 #include "artist/subjects.h"
-#include "res/resource_ids.h"
+#include "skin/picture_ids.h"
 #include "ui/main_window_layout.h"
 
 namespace tarnix::art {

@@ -3,7 +3,7 @@
 #include "artist/shapes.h"
 #include "artist/subjects.h"
 #include "artist/window_face.h"
-#include "res/resource_ids.h"
+#include "skin/picture_ids.h"
 #include "ui/main_window_layout.h"
 
 namespace tarnix::art {

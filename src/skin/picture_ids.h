@@ -1,7 +1,7 @@
 // The numbers of the pictures that are built into the program, what each one is, and how large. Pictures of
 // controls that stand in a layout table (the main window's, the dialogs', the macro manager's) have their
-// numbers and sizes there; this header holds those that the skin itself asks for, and the sizes that no table
-// says.
+// numbers and sizes there; this header holds those that the skin asks for by itself, and the sizes that no
+// table says.
 #pragma once
 
 #include "platform/geometry.h"
@@ -11,10 +11,6 @@ namespace tarnix::picture {
 /// The program's icon: windows, notification area, desktop entry.
 inline constexpr unsigned programIcon = 381;
 inline constexpr Size programIconSize{64, 64};
-
-/// Kept by popup lists, which paint themselves.
-inline constexpr unsigned popupFace = 151;
-inline constexpr Size popupFaceSize{169, 134};
 
 /// Frames side by side in the strips of each kind of control.
 inline constexpr int buttonFrames = 3; ///< normal, hover, pressed; a tab's third frame is the selected tab

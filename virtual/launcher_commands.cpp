@@ -155,6 +155,7 @@ bool launchProgram(Launcher& launcher, Words words) {
 bool fail(Launcher& launcher, Words words) {
     VirtualKeyboard& keyboard = launcher.keyboard();
     if (words[0] == "all" || words[0] == "none") {
+        keyboard.forgetFaults();
         keyboard.failEveryRequest(words[0] == "all");
         return true;
     }

@@ -6,8 +6,10 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <thread>
 
 #include "support/temp_folder.h"
@@ -49,16 +51,29 @@ class LaunchTest : public testing::Test {
 };
 
 TEST_F(LaunchTest, StartsAProgramOfAnyNameWithoutAShellOrArguments) {
-    int number = 0;
-    for (const std::string name :
-         {"plain", "two words", "--help", "$(touch bad); touch bad", "a\nb", "`id`|&;'\"*"}) {
-        const std::string mark = "mark" + std::to_string(number++);
-        EXPECT_THAT(opened(program(name, mark)), IsEmpty()) << name;
-        EXPECT_EQ(result(mark), "0\n") << name;
+    std::vector<std::string> names{"plain", "two words",   "--help",   "$(touch bad); touch bad",
+                                   "a\nb",  "`id`|&;'\"*", "\xC4\xE3", std::string(255, 'x')};
+    const std::string special = " \t\n$`'\"\\;&|<>*?[]{}()!#~%-=,:.@\x01\x7F\xFF";
+    std::mt19937 random(1);
+    while (names.size() < 60) {
+        std::string& name = names.emplace_back("x");
+        while (random() % 12 != 0)
+            name.insert(random() % 2 * name.size(), 1, special[random() % special.size()]);
     }
-    EXPECT_FALSE(fs::exists(folder / "bad") || fs::exists("bad"));
+    for (std::size_t number = 0; number < names.size(); ++number) {
+        const std::string mark = "mark" + std::to_string(number);
+        const std::string path = program(names[number], mark);
+        EXPECT_THAT(opened(path), IsEmpty()) << path;
+        EXPECT_EQ(result(mark), "0\n") << path;
+        EXPECT_THAT(opened(path + " "), IsEmpty());
+        fs::remove(path);
+        fs::remove(folder / mark);
+        EXPECT_TRUE(fs::is_empty(folder.path())) << path;
+    }
+    EXPECT_FALSE(fs::exists("bad"));
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "a child is left to wait for";
     EXPECT_EQ(errno, ECHILD);
+    std::printf("counted: %zu programs of odd names\n", names.size());
 }
 
 TEST_F(LaunchTest, OpensWhatExistsAndIsNoProgram) {
@@ -74,10 +89,12 @@ TEST_F(LaunchTest, OpensWhatExistsAndIsNoProgram) {
 TEST_F(LaunchTest, DoesNothingWithAnythingElse) {
     const std::string started = program("started", "mark");
     fs::create_symlink(folder / "nowhere", folder / "dangling");
+    std::ofstream(folder / "orphan") << "#!/no/such/interpreter\n";
+    fs::permissions(folder / "orphan", fs::perms::owner_all);
     for (const std::string& target :
          {std::string(), std::string("sh"), std::string("./started"), started + " -x",
           started + std::string("\0x", 2), (folder / "missing").string(), (folder / "dangling").string(),
-          std::string("http://"), std::string("https://example.org/ -x"),
+          (folder / "orphan").string(), std::string("http://"), std::string("https://example.org/ -x"),
           std::string("http://example.org/\n"), "file://" + started, std::string("javascript:alert(1)"),
           std::string("mailto:a@example.org")})
         EXPECT_THAT(opened(target), IsEmpty()) << target;

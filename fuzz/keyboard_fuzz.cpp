@@ -1,12 +1,13 @@
 // The device link and the event dispatch with a keyboard behind them that holds anything, sends anything, and
-// fails, leaves and returns at any request. Whatever it does, the program's files stay readable and small.
-#include <algorithm>
+// fails, leaves and returns at any request. Whatever it does, the macro library stays a file that can be
+// read.
 #include <cstdlib>
+#include <vector>
 
 #include "device/device_events.h"
 #include "device/device_link.h"
+#include "input.h"
 #include "macro/macro_files.h"
-#include "profile/profile_file.h"
 #include "support/fake_clock.h"
 #include "support/memory_files.h"
 #include "virtual/virtual_hid.h"
@@ -24,119 +25,64 @@ struct ImmediateLoop : MainLoop {
 struct SilentOwner : DeviceObserver {
     void ShowCurrentProfile() override {}
     void onDeviceEvent(DeviceEvent) override {}
-    void launchGKeyUrl(const std::string& url) override {
-        if (url.empty()) std::abort();
-    }
+    void launchGKeyUrl(const std::string&) override {}
     void onMacrosChanged() override {}
     void showDisconnectedNotice() override {}
 };
 
-/// A keyboard and a program; the input says what happens.
-class Play {
-  public:
-    explicit Play(std::span<const std::uint8_t> input) : m_input(input) {
-        resetMacroLibrary(macros);
-        for (int n = 0; n < profileCount; ++n) {
-            store.ResetProfile(n);
-            store.SetSlotPath(n, std::string(1, static_cast<char>('0' + n)));
-        }
-        hid.missing = {VirtualKeyboard::eventInterface}; // reports are dispatched here, not by a thread
-        link.InitDeviceLink();
+void step(Input& input, VirtualKeyboard& keyboard, VirtualHid& hid, DeviceLink& link, DeviceEvents& events) {
+    const std::uint8_t choice = input.take() % 8;
+    if (choice == 0) {
+        keyboard.activeProfile = input.take();
+    } else if (choice < 3) { // what it holds is set as over the wire
+        std::vector<std::uint8_t> report{static_cast<std::uint8_t>(5 + input.take() % 4)};
+        report.resize(VirtualKeyboard::featureLength(report[0]));
+        input.fill(std::span(report).subspan(2));
+        report[1] = static_cast<std::uint8_t>(report[0] == 6 ? 0xB8 : report[0] == 5 ? 3 : report.size());
+        report[2] %= 3;
+        keyboard.setFeature(report);
+    } else if (choice == 3) {
+        keyboard.faultAtRequest(input.take(), [&hid, refuses = input.flag()] {
+            if (!refuses) hid.unplug();
+            return !refuses;
+        });
+    } else if (choice == 4) {
+        hid.plugIn();
+        hid.tell(input.flag() ? HidChange::Arrival : HidChange::Removal);
+    } else if (choice == 5) {
+        for (int row = input.take() % 16; row >= 0; --row)
+            link.pending().mark(row, input.take());
+        link.FlushPendingWrites();
+    } else {
+        const std::uint8_t report[]{0, input.take(), input.take()};
+        events.dispatch(std::span(report).first(input.take() % 16 == 0 ? 2 : 3));
     }
-
-    void run() {
-        while (!m_input.empty())
-            step();
-        link.close();
-        const bool saved = !files.contents.empty();
-        MacroLibrary read;
-        if (LoadMacroLibrary(read, files, folder) != saved) std::abort();
-    }
-
-  private:
-    std::uint8_t byte() {
-        if (m_input.empty()) return 0;
-        const std::uint8_t first = m_input[0];
-        m_input = m_input.subspan(1);
-        return first;
-    }
-    /// Puts some of the input at some place.
-    void poke(std::span<std::uint8_t> bytes) {
-        const std::size_t start = byte() % bytes.size();
-        const std::size_t length = std::min({bytes.size() - start, std::size_t{byte()}, m_input.size()});
-        std::copy_n(m_input.begin(), length, bytes.begin() + start);
-        m_input = m_input.subspan(length);
-    }
-    void step() {
-        KeyboardProfile& profile = keyboard.profiles[byte() % 3];
-        KeyboardMacro& macro = profile.macros[byte() % 6];
-        std::array<std::uint8_t, 24> name{};
-        switch (byte() % 12) {
-            case 0:
-                poke(profile.lighting);
-                break;
-            case 1:
-                poke(profile.keyCodes);
-                break;
-            case 2:
-                poke(profile.gKeys);
-                break;
-            case 3:
-                poke(macro.steps);
-                break;
-            case 4:
-                poke(name);
-                macro.name = std::string(name.begin(), name.end());
-                break;
-            case 5:
-                macro.stepCount = byte();
-                macro.loopCount = byte();
-                break;
-            case 6:
-                keyboard.activeProfile = byte();
-                break;
-            case 7:
-                keyboard.failRequest(byte());
-                break;
-            case 8:
-                keyboard.faultAtRequest(byte(), [this] {
-                    hid.unplug();
-                    return true;
-                });
-                break;
-            case 9:
-                hid.plugIn();
-                hid.tell(byte() % 2 == 0 ? HidChange::Arrival : HidChange::Removal);
-                break;
-            case 10:
-                for (int row = byte(); row >= 0; --row)
-                    link.pending().mark(row, byte());
-                link.FlushPendingWrites();
-                break;
-            default: {
-                const std::array<std::uint8_t, 3> report{0, byte(), byte()};
-                events.dispatch(std::span(report).first(byte() % 4));
-            }
-        }
-    }
-
-    std::span<const std::uint8_t> m_input;
-    FakeClock clock;
-    VirtualKeyboard keyboard{clock};
-    VirtualHid hid{keyboard};
-    ImmediateLoop loop;
-    MemoryFiles files;
-    ProfileStore store;
-    MacroLibrary macros;
-    std::string folder = "/";
-    SilentOwner owner;
-    DeviceLink link{{hid, clock, loop, {store, macros, files, folder}, owner}};
-    DeviceEvents events{link.protocol(), {store, macros, files, folder}, owner};
-};
+}
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    Play(std::span(data, size)).run();
+    FakeClock clock;
+    VirtualKeyboard keyboard{clock};
+    VirtualHid hid{keyboard};
+    hid.missing = {VirtualKeyboard::eventInterface}; // reports are dispatched here, not by a thread
+    ImmediateLoop loop;
+    MemoryFiles files;
+    ProfileStore store;
+    MacroLibrary macros;
+    const std::string folder = "/";
+    SilentOwner owner;
+    DeviceLink link{{hid, clock, loop, {store, macros, files, folder}, owner}};
+    DeviceEvents events{link.protocol(), {store, macros, files, folder}, owner};
+
+    resetMacroLibrary(macros);
+    for (int n = 0; n < profileCount; ++n)
+        store.ResetProfile(n);
+    link.InitDeviceLink();
+    for (Input input(data, size); !input.empty();)
+        step(input, keyboard, hid, link, events);
+    link.close();
+    const bool saved = !files.contents.empty();
+    if (LoadMacroLibrary(macros, files, folder) != saved) std::abort();
     return 0;
 }

@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "device/feature_reports.h"
 #include "device/macro_report.h"
@@ -26,11 +27,8 @@ void require(bool holds) {
 
 void configuration(std::string_view text) {
     ConfigPairs pairs;
-    const auto usable = [&] {
-        return std::none_of(pairs.begin(), pairs.end(), [](const auto& pair) { return pair.Key.empty(); });
-    };
-    if (!parseConfiguration(text, pairs) && usable())
-        require(!parseConfiguration(formatConfiguration(pairs), pairs));
+    const bool taken = !parseConfiguration(text, pairs);
+    if (taken && !pairs.back().Key.empty()) require(!parseConfiguration(formatConfiguration(pairs), pairs));
 }
 
 void profile(std::string_view text) {
@@ -43,27 +41,24 @@ void profile(std::string_view text) {
 void macroKey(std::string_view text) {
     MacroKey macro;
     if (!parseMacroKey(text, macro)) require(!parseMacroKey(formatMacroKey(macro), macro));
-    const MacroReport report = encodeMacroReport(macro, 1, 5);
-    DecodeMacroReport(macro, report);
-    require(encodeMacroReport(macro, 1, 5).size() == report.size());
+    DecodeMacroReport(macro, encodeMacroReport(macro, 1, 5));
 }
 
 template <LibraryForm form>
 void library(std::string_view text) {
-    MacroLibrary library;
-    if (!parseMacroLibrary(text, form, library))
-        require(!parseMacroLibrary(formatMacroLibrary(library, form), form, library));
+    MacroLibrary read;
+    if (!parseMacroLibrary(text, form, read))
+        require(!parseMacroLibrary(formatMacroLibrary(read, form), form, read));
 }
 
 void macroFromKeyboard(std::string_view bytes) {
     MacroReport report{};
     std::copy_n(bytes.begin(), std::min(bytes.size(), report.size()), report.begin());
-    MacroLibrary library;
-    DecodeMacroReport(AddMacroKey(AddMacroSet(library, "Set"), macroReportName(report).value_or("None")),
-                      report);
-    (void)encodeMacroReport(library.sets[0].keys[0], 0, 0);
-    for (const LibraryForm form : {LibraryForm::Long, LibraryForm::Short})
-        require(!parseMacroLibrary(formatMacroLibrary(library, form), form, library));
+    MacroLibrary held;
+    MacroKey& macro = AddMacroKey(AddMacroSet(held, "Set"), macroReportName(report).value_or("None"));
+    DecodeMacroReport(macro, report);
+    library<LibraryForm::Long>(formatMacroLibrary(held, LibraryForm::Long));
+    (void)encodeMacroReport(macro, 0, 0);
 }
 
 void descriptor(std::string_view bytes) {
@@ -85,20 +80,21 @@ void writeSeeds(const std::string& folder) {
     MacroLibrary macros;
     resetMacroLibrary(macros);
     MacroKey& macro = AddMacroKey(macros.sets[0], "Tap");
-    for (const bool up : {false, true})
-        AppendAction(macro, MacroAction::delay(120)), AppendAction(macro, MacroAction::key(0x41, up));
-    macro.commandCount = 3;
+    AppendAction(macro, MacroAction::key(0x41, false));
+    AppendAction(macro, MacroAction::delay(120));
     const MacroReport report = encodeMacroReport(macro, 0, 1);
-    std::vector<std::pair<char, std::string>> seeds{{0, formatConfiguration(store.ConfigTable)},
-                                                    {1, formatProfile(store.ProfileTable[4])},
-                                                    {2, formatMacroKey(macro)},
-                                                    {3, formatMacroLibrary(macros, LibraryForm::Long)},
-                                                    {4, formatMacroLibrary(macros, LibraryForm::Short)},
-                                                    {5, {report.begin(), report.end()}}};
+    std::vector<std::string> seeds{formatConfiguration(store.ConfigTable),
+                                   formatProfile(store.ProfileTable[4]),
+                                   formatMacroKey(macro),
+                                   formatMacroLibrary(macros, LibraryForm::Long),
+                                   formatMacroLibrary(macros, LibraryForm::Short),
+                                   {report.begin(), report.end()}};
     for (const KeyboardInterface& each : VirtualKeyboard::interfaces())
-        seeds.emplace_back(6, std::string(each.descriptor.begin(), each.descriptor.end()));
-    for (std::size_t n = 0; n < seeds.size(); ++n)
-        std::ofstream(folder + "/seed" + std::to_string(n)) << seeds[n].first << seeds[n].second;
+        seeds.emplace_back(each.descriptor.begin(), each.descriptor.end());
+    for (std::size_t n = 0; n < seeds.size(); ++n) {
+        const auto reader = static_cast<char>(std::min(n, std::size(readers) - 1));
+        std::ofstream(folder + "/seed" + std::to_string(n)) << reader << seeds[n];
+    }
 }
 
 } // namespace

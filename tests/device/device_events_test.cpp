@@ -7,7 +7,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Bytes = std::vector<std::uint8_t>;
 
 class DeviceEventsTest : public testing::Test {
   protected:
@@ -50,23 +49,6 @@ TEST_F(DeviceEventsTest, LightingChangesAreKeptAsTheyCameInTheActiveProfile) {
     EXPECT_EQ(value(1), "5");
     EXPECT_FALSE(bench.link->pending().isMarked(PendingWrites::lightingRow, 2));
     EXPECT_THAT(bench.files.log, IsEmpty());
-}
-
-TEST_F(DeviceEventsTest, AnUploadIsAbandonedWithoutAnswerOrSlot) {
-    const auto before = records;
-    for (std::size_t failing = 0; failing < 3; ++failing) {
-        bench.keyboard.recordMacro(1, Bytes{0x04, 0x00});
-        bench.keyboard.failRequest(failing);
-        const bool abandoned = failing == 1;
-        EXPECT_EQ(bench.settle().empty(), abandoned) << failing;
-        EXPECT_EQ(std::exchange(records, before) == before, abandoned);
-        EXPECT_EQ(std::exchange(bench.files.log, {}).empty(), abandoned);
-        EXPECT_EQ(bench.totalPause(), abandoned ? 16 : 366);
-    }
-    bench.requests();
-    for (const std::uint8_t value : Bytes{0, 7, 255})
-        EXPECT_THAT(bench.event(0x01, value), IsEmpty());
-    EXPECT_THAT(bench.requests(), IsEmpty());
 }
 
 } // namespace

@@ -58,16 +58,6 @@ TEST_F(FeatureProtocolTest, OperationsSendTheirReportsAndTakeTheirPausesEvenWhen
     EXPECT_THAT(bench.pauses(), IsEmpty());
 }
 
-TEST_F(FeatureProtocolTest, AProfileOrSlotThatIsNoneSendsNothing) {
-    for (const int odd : {-1, 6, 254}) {
-        EXPECT_FALSE(protocol.ReadLighting(odd) || protocol.WriteLighting(odd) ||
-                     protocol.ReadKeyCodes(odd) || protocol.WriteKeyCodes(odd) ||
-                     protocol.ReadGKeyMacro(odd, 0) || protocol.WriteGKeyMacro(1, odd) ||
-                     protocol.UploadGKeyMacro(odd, 0) || protocol.UploadGKeyMacro(1, odd));
-    }
-    EXPECT_THAT(bench.requests(), IsEmpty());
-}
-
 TEST_F(FeatureProtocolTest, AMacroWithoutANameGetsOneAndGoesBackWithIt) {
     keyboardMacro = {std::nullopt, 4, 1, {0x05, 0x01}};
     EXPECT_TRUE(protocol.ReadGKeyMacro(1, 2));

@@ -131,19 +131,5 @@ TEST(MacroReport, StepsReadBackAsDelaysBeforeTheirKeys) {
               (Actions{MacroAction::key(0xA5, false), MacroAction::key(0x75, true)}));
 }
 
-TEST(MacroReport, NoCountLeadsBeyondTheReport) {
-    MacroReport report{};
-    std::fill(report.begin() + 32, report.end(), std::uint8_t{0xFF}); // 255 steps, each a delay and a key
-    MacroKey macro = macroOf({press});
-    DecodeMacroReport(macro, report);
-    EXPECT_EQ(macro.actionCount, 192u);
-    EXPECT_EQ(macro.actions[192], MacroAction{});
-    EXPECT_EQ(macro.commandCount, 255);
-
-    macro = macroOf(Actions(200, release));
-    macro.actionCount = 4000000000u; // a file may claim so
-    EXPECT_EQ(slice(encodeMacroReport(macro, 1, 1), 222, 226), (Bytes{4, 0x80, 4, 0x80}));
-}
-
 } // namespace
 } // namespace tarnix

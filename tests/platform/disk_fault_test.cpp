@@ -54,10 +54,9 @@ ssize_t __wrap_read(int file, void* bytes, std::size_t size) {
 }
 ssize_t __real_write(int file, const void* bytes, std::size_t size);
 ssize_t __wrap_write(int file, const void* bytes, std::size_t size) {
-    if (!meetsFault()) return __real_write(file, bytes, size);
-    static_cast<void>(__real_write(file, bytes, size / 2)); // what had room
-    errno = faultError;
-    return -1;
+    const bool fails = meetsFault();
+    const ssize_t written = __real_write(file, bytes, fails ? size / 2 : size);
+    return fails ? -1 : written;
 }
 int __wrap_fsync(int) {
     return meetsFault() ? -1 : 0; // the system outlives these tests
@@ -68,8 +67,8 @@ int __wrap_linkat(int, const char* from, int, const char* to, int flags) {
 }
 int __real_close(int file);
 int __wrap_close(int file) {
-    const bool failed = meetsFault();
-    return __real_close(file) != 0 || failed ? -1 : 0;
+    const bool fails = meetsFault();
+    return __real_close(file) != 0 || fails ? -1 : 0;
 }
 int __real_rename(const char* from, const char* to);
 int __wrap_rename(const char* from, const char* to) {
@@ -83,169 +82,138 @@ namespace {
 namespace fs = std::filesystem;
 using Texts = std::map<std::string, std::string>;
 
-/// The program's files, in one of two versions.
+/// The program's files, in an old and a new version.
 class DiskFaultTest : public testing::Test {
   protected:
-    struct State {
-        ProfileStore store;
-        MacroLibrary macros;
-    };
     DiskFaultTest() {
+        ResetConfig(store, folder);
+        resetMacroLibrary(macros);
         for (int version = 0; version < 2; ++version) {
-            State& state = states[version];
-            ResetConfig(state.store, folder);
-            state.store.SetCurrentProfileText(version);
-            resetMacroLibrary(state.macros);
-            for (int n = 0; n < profileCount; ++n) {
-                state.store.ResetProfile(n);
-                state.store.ProfileTable[n].KeyCodes.fill(static_cast<std::uint8_t>(version));
-            }
-            for (int n = 0; n < 100 * version; ++n)
-                AddMacroKey(state.macros.sets[0], "Macro" + toText(n));
-            save(states[version]);
-            texts[version] = present();
+            save(version);
+            texts.push_back(present());
         }
     }
 
-    /// What each save answered, by the file's name.
-    std::map<std::string, bool> save(State& state) {
-        std::map<std::string, bool> done{
-            {"config.ini", SaveConfig(state.store, *files, folder)},
-            {"MacroLibraryFile.mlf", SaveMacroLibrary(state.macros, *files, folder)}};
-        for (int n = 0; n < profileCount; ++n)
-            done["default" + toText(n) + ".psf"] = SaveProfileFile(state.store, n, *files);
-        return done;
+    void save(int version) {
+        for (int n = 0; n < 100 * version && macros.sets[0].keys.size() < 100; ++n)
+            AddMacroKey(macros.sets[0], "Macro" + toText(n));
+        if (version == 0) macros.sets[0].keys.clear();
+        store.SetCurrentProfileText(version);
+        SaveConfig(store, *files, folder);
+        SaveMacroLibrary(macros, *files, folder);
+        for (int n = 0; n < profileCount; ++n) {
+            store.ProfileTable[n].KeyCodes.fill(static_cast<std::uint8_t>(version));
+            SaveProfileFile(store, n, *files);
+        }
     }
-    void start(State& state) {
-        LoadMacroLibrary(state.macros, *files, folder);
-        LoadConfig(state.store, *files, folder);
+    void start() {
+        LoadMacroLibrary(macros, *files, folder);
+        LoadConfig(store, *files, folder);
         for (int n = 0; n < profileCount; ++n)
-            LoadProfileFile(state.store, n, *files);
+            LoadProfileFile(store, n, *files);
     }
 
     Texts present() const {
         Texts all;
-        for (const auto& entry : fs::directory_iterator(temporary / "config")) {
+        for (const auto& entry : fs::directory_iterator(config)) {
             std::ifstream file(entry.path());
             all[entry.path().filename()] = {std::istreambuf_iterator<char>(file), {}};
         }
         return all;
     }
     void lay(const Texts& given) const {
-        fs::remove_all(temporary / "config");
-        fs::create_directory(temporary / "config");
+        fs::remove_all(config);
+        fs::create_directory(config);
         for (const auto& [name, text] : given)
-            std::ofstream(temporary / "config" / name) << text;
+            std::ofstream(config / name) << text;
     }
 
-    /// Runs the work with the fault at call 0, 1 ... until it makes no more calls, and checks each time.
-    int sweep(int error, bool lasts, const std::function<void()>& work, const std::function<void()>& check) {
-        int place = 0;
-        for (calls = place + 1; calls > place && !HasFailure(); ++place) {
-            SCOPED_TRACE("error " + toText(error) + " at " + toText(place));
-            calls = 0;
-            faultError = error;
-            faultLasts = lasts;
-            callsBeforeFault = place;
-            work();
-            callsBeforeFault = -1;
+    /// Every file is whole, old or new. What was not finished is taken away, and counted.
+    void expectWhole() {
+        Texts all = present();
+        unfinished += static_cast<int>(std::erase_if(all, [this](const auto& each) {
+            return each.first[0] == '.' && fs::remove(config / each.first);
+        }));
+        for (auto& [name, text] : all)
+            if (text == texts[1][name]) text = texts[0][name];
+        EXPECT_EQ(all, texts[0]);
+    }
+
+    /// Does the work in a process of its own; whether that was killed.
+    static pid_t begin(const std::function<void()>& work) {
+        const pid_t process = ::fork();
+        if (process == 0) calls = 0, work(), ::_exit(calls > callsBeforeFault ? 0 : 1);
+        return process;
+    }
+    static int ended(pid_t process) {
+        int status = 0;
+        EXPECT_EQ(::waitpid(process, &status, 0), process);
+        return status;
+    }
+
+    /// Does the work with the fault at call 0, 1 ... until it makes no more calls, and checks each time.
+    int sweep(int error, bool lasts, const Texts& given, const std::function<void()>& work,
+              const std::function<void()>& check) {
+        faultError = error;
+        faultLasts = lasts;
+        for (callsBeforeFault = 0;; ++callsBeforeFault) {
+            SCOPED_TRACE("error " + toText(error) + " at " + toText(callsBeforeFault));
+            lay(given);
+            const int status = ended(begin(work));
             check();
+            if (HasFailure() || (WIFEXITED(status) && WEXITSTATUS(status) == 1))
+                return std::exchange(callsBeforeFault, -1);
         }
-        return place - 1;
     }
 
     const TempFolder temporary;
     const std::string folder = temporary.path().string() + "/";
+    const fs::path config = temporary / "config";
     const std::unique_ptr<Files> files = makeSystemFiles();
-    State states[2];
-    Texts texts[2];
+    ProfileStore store;
+    MacroLibrary macros;
+    std::vector<Texts> texts;
+    int unfinished = 0;
 };
 
 TEST_F(DiskFaultTest, AFailureAtAnyCallKeepsTheOldFileAndLeavesNothingBehind) {
     int count = 0;
-    std::map<std::string, bool> done;
+    Texts damaged = texts[1];
+    damaged["default3.psf"].resize(20);
     for (const auto& [error, lasts] :
          {std::pair{ENOSPC, true}, {ENOSPC, false}, {EROFS, true}, {EIO, false}, {EMFILE, false}}) {
-        const auto work = [&] {
-            lay(texts[0]);
-            done = save(states[1]);
-        };
-        count += sweep(error, lasts, work, [&] {
-            Texts expected = texts[0];
-            for (const auto& [name, saved] : done)
-                if (saved) expected[name] = texts[1].at(name);
-            EXPECT_EQ(present(), expected);
-            save(states[1]);
-            EXPECT_EQ(present(), texts[1]) << "the next time";
-        });
-        const auto begin = [&] {
-            Texts given = texts[1];
-            given["default3.psf"].resize(20);
-            lay(given);
-            State state;
-            start(state);
-        };
-        count += sweep(error, lasts, begin, [&] {
-            Texts left = present();
-            for (const auto& [name, text] : texts[1]) {
-                const bool aside = left.contains(name + ".bak");
-                EXPECT_EQ(left[aside ? name + ".bak" : name],
-                          name == "default3.psf" ? text.substr(0, 20) : text);
-            }
-        });
+        count += sweep(
+            error, lasts, texts[0], [this] { save(1); }, [this] { expectWhole(); });
+        count += sweep(
+            error, lasts, damaged, [this] { start(); },
+            [&] {
+                Texts left = present();
+                for (const auto& [name, text] : damaged)
+                    EXPECT_EQ(left[left.contains(name + ".bak") ? name + ".bak" : name], text);
+            });
     }
+    EXPECT_EQ(unfinished, 0);
     std::printf("counted: %d faults of the disk\n", count);
 }
 
 TEST_F(DiskFaultTest, DeathAtAnyCallOrMomentLeavesEveryFileWholeOldOrNew) {
-    std::mt19937 random(1);
-    const auto child = [&](const std::function<void()>& work) {
-        const pid_t process = ::fork();
-        if (process == 0) calls = 0, work(), ::_exit(0);
-        return process;
-    };
-    int left = 0;
-    const auto check = [&] {
-        Texts all = present();
-        left += static_cast<int>(std::erase_if(all, [this](const auto& each) {
-            return each.first[0] == '.' && fs::remove(temporary / "config" / each.first);
-        }));
-        for (auto& [name, text] : all)
-            if (text == texts[1].at(name)) text = texts[0].at(name);
-        EXPECT_EQ(all, texts[0]);
-    };
-    const auto killed = [](pid_t process) {
-        int status = 0;
-        EXPECT_EQ(::waitpid(process, &status, 0), process);
-        return WIFSIGNALED(status);
-    };
-
-    int atCalls = 0;
-    faultError = dies;
-    for (bool more = true; more && !HasFailure(); ++atCalls) {
-        lay(texts[0]);
-        more = killed(child([&] {
-            callsBeforeFault = atCalls;
-            save(states[1]);
-        }));
-        check();
-    }
-
+    const int atCalls = sweep(
+        dies, false, texts[0], [this] { save(1); }, [this] { expectWhole(); });
     const char* wanted = std::getenv("TARNIX_KILLS");
     const int kills = wanted != nullptr ? std::atoi(wanted) : 100;
-    callsBeforeFault = -1;
+    std::mt19937 random(1);
     for (int n = 0; n < kills && !HasFailure(); ++n) {
-        const pid_t process = child([&] {
-            for (int version = n % 2;; version = 1 - version)
-                save(states[version]);
+        const pid_t process = begin([&] {
+            for (int version = n;; ++version)
+                save(version % 2);
         });
         std::this_thread::sleep_for(std::chrono::microseconds(random() % 5000));
         ::kill(process, SIGKILL);
-        EXPECT_TRUE(killed(process));
-        check();
+        EXPECT_TRUE(WIFSIGNALED(ended(process)));
+        expectWhole();
     }
-    std::printf("counted: %d kills (%d at each call in turn), %d unfinished files left beside\n",
-                atCalls - 1 + kills, atCalls - 1, left);
+    std::printf("counted: %d kills, %d at each call in turn; %d unfinished files left beside\n",
+                atCalls + kills, atCalls, unfinished);
 }
 
 } // namespace

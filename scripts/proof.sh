@@ -85,7 +85,6 @@ launch() {
 }
 
 soak() {
-    scripts/setup.sh iproute2
     tried "Window and keyboard used at random" soak tests/support/with_display.sh scripts/soak.sh "$(short_or_long 30 600)" \
         "${SEED:-1}"
 }

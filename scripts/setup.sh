@@ -13,7 +13,7 @@ packages=(
     libumockdev-dev umockdev
     # tests and the tour on a virtual display
     libgtest-dev libgmock-dev xvfb xauth xdotool x11-utils x11-xserver-utils openbox imagemagick dbus procps
-    trayer libglib2.0-bin python3-dbusmock at-spi2-core python3-gi gir1.2-atspi-2.0
+    trayer libglib2.0-bin python3-dbusmock iproute2 at-spi2-core python3-gi gir1.2-atspi-2.0
     # checks of what is installed
     udev desktop-file-utils appstream man-db groff-base bsdextrautils
 )

@@ -55,7 +55,6 @@ TEST_F(Accessibility, APressIsThePointersAndWaitsItsTurn) {
     QAccessibleInterface& button = *root().child(0);
     QAccessibleInterface& row = *root().child(2)->child(0);
     press(button);
-    EXPECT_THAT(m_log, IsEmpty()) << "the asker is answered before the window acts";
     application().clock().pause(Milliseconds(20));
     EXPECT_THAT(m_log, IsEmpty());
     m_window.post(1);
@@ -83,6 +82,7 @@ TEST_F(Accessibility, WhatTheUserCannotReachStaysAsItIs) {
         m_window.face.items[0].disabled = disabled;
         bar.valueInterface()->setCurrentValue(99);
         text.editableTextInterface()->replaceText(0, 3, "new");
+        EXPECT_THAT(m_log, IsEmpty()) << "the asker is answered before the window acts";
         m_window.post(1);
         EXPECT_TRUE(logged("message 1 0 0"));
     };

@@ -84,6 +84,7 @@ struct EditField::Native {
 
     void make();
     void show(const QString& newText);
+    void typed();
     void changed();
 };
 
@@ -100,6 +101,7 @@ void EditField::Native::make() {
     edit->setEnabled(enabled);
     edit->show();
     edit->setAccessibleName(decodeText(style.caption));
+    QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { typed(); });
     QObject::connect(edit, &QLineEdit::textChanged, edit, [this] { changed(); });
 }
 
@@ -108,14 +110,19 @@ void EditField::Native::show(const QString& newText) {
     if (widget) widget->setText(text);
 }
 
-/// By the user: what the program sets is `text` already. Assistive technology changes the text without any
-/// key, also where the user has no way to the field.
+void EditField::Native::typed() {
+    text = widget->text();
+    widget->parentWindow().call([number = id](Window& told) { told.OnEditChange(number); });
+}
+
+/// What was typed or set by the program is `text` already. Assistive technology sets the text as well, also
+/// where the user has no way to the field, and waits until it is set: the window hears of it afterwards.
 void EditField::Native::changed() {
     const QString entered = widget->text();
     if (entered == text) return;
     if (isShutOut(parent) || !widget->isEnabled()) return show(QString(text));
     text = entered;
-    EventGate::instance().enter([window = QPointer<WindowWidget>(&widget->parentWindow()), number = id] {
+    EventGate::instance().post([window = QPointer<WindowWidget>(&widget->parentWindow()), number = id] {
         if (window) window->call([number](Window& told) { told.OnEditChange(number); });
     });
 }

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/on_screen_display.h"
+#include "app/tray_presence.h"
 #include "frame_sheet.h"
 #include "macro/macro_files.h"
 #include "macro_manager/companion_dlgs.h"
@@ -372,6 +373,29 @@ TEST_F(Gallery, ManagerCompanions) {
         }
         Opened<CMacroManagerAttentionDlg> companion(*dialog);
         shot("manager-attention");
+    });
+}
+
+TEST_F(Gallery, Tray) {
+    bench.run([&] {
+        for (const std::string color : {"0x202428", "0xf0f0f0"}) {
+            const std::string pid = "\"$XDG_RUNTIME_DIR/trayer\"";
+            run("trayer --edge top --align right --expand false --widthtype request --height 24 "
+                "--SetDockType true "
+                "--transparent true --alpha 0 --tint " +
+                color + " & echo $! > " + pid);
+            TrayPresence presence;
+            presence.AddTrayIcon(*bench.window);
+            EXPECT_TRUE(testing::runUntil([&] { return presence.isTrayShown(); }));
+            testing::runUntil([] { return false; }, Milliseconds(500));
+            testing::movePointer({984, 19});
+            testing::pressButton(3);
+            testing::releaseButton(3);
+            shot("tray-" + color);
+            testing::tapKey("Escape");
+            run("kill $(cat " + pid + ")");
+            testing::movePointer({0, 0});
+        }
     });
 }
 

@@ -35,7 +35,8 @@ done
 
 icons=build/src/res/art/icons
 rsvg-convert -w 256 -h 256 "$icons/scalable.svg" -o out/icon-scalable.png
-montage -background '#808890' -label '%t' "$icons"/*.png out/icon-scalable.png -geometry +8+8 -tile 5x out/icons.png
+montage -background '#808890' -label '%t' $(printf "$icons/%s.png " 16 22 24 32 48 64 128 256) out/icon-scalable.png \
+    -geometry '256x256>+8+8' -tile 3x out/icons.png
 rm out/icon-scalable.png
 echo "out/icons.png"
 

@@ -53,6 +53,10 @@ class QueueLoop : public MainLoop {
     void runPosted() {
         runUntil([this] { return waiting() == 0; });
     }
+    /// Runs the next piece of work, when it has come.
+    bool runOne() {
+        return runUntil([turn = 0]() mutable { return turn++ > 0; });
+    }
 
   private:
     std::mutex m_mutex;

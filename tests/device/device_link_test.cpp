@@ -66,7 +66,7 @@ TEST(DeviceLink, AnImpossibleActiveProfileEndsTheFullReadUntilTheNextUnplugging)
 
 TEST(DeviceLink, TheLastMatchAmongTheFirstThirtyInterfacesIsTaken) {
     DeviceBench bench;
-    bench.hid.before.assign(30, VirtualHid::mouse("mouse"));
+    bench.hid.before.assign(29, VirtualHid::mouse("mouse"));
     bench.start();
     EXPECT_FALSE(bench.link->isDeviceFound());
     bench.hid.before.resize(27);
@@ -76,6 +76,46 @@ TEST(DeviceLink, TheLastMatchAmongTheFirstThirtyInterfacesIsTaken) {
     bench.hid.after.push_back({"second", VirtualKeyboard::vendor, VirtualKeyboard::product, 0x000B, 0});
     bench.link->FindDevice();
     EXPECT_FALSE(bench.protocol().SetActiveProfile(0)) << "the second keyboard takes no reports here";
+}
+
+TEST(DeviceLink, AKeyboardThatIsBackBeforeItsRemovalIsToldWorksOnWithoutANotice) {
+    DeviceBench bench;
+    bench.startQuietly();
+    bench.hid.unplug();
+    bench.hid.plugIn();
+    bench.hid.tell(HidChange::Removal);
+    bench.hid.tell(HidChange::Arrival);
+    EXPECT_THAT(bench.requests(), IsEmpty()) << "it is not read again";
+    ASSERT_TRUE(bench.loop.runOne()) << "the listener's end";
+    EXPECT_EQ(bench.event(eventReport::profileChanged, 2), (Words{"show 1", "event 2"}));
+    EXPECT_TRUE(bench.protocol().SetActiveProfile(1));
+}
+
+TEST(DeviceLink, ReplugsLeaveOneListenerAndOneNoticeForAllUntilThatIsClosed) {
+    DeviceBench bench;
+    bench.link->pending().mark(PendingWrites::lightingRow, 0);
+    bench.startQuietly();
+    EXPECT_FALSE(bench.link->pending().isMarked(PendingWrites::lightingRow, 0));
+    for (int round = 0; round < 2; ++round) {
+        for (int times = 0; times < 2; ++times) {
+            bench.hid.unplug();
+            bench.hid.tell(HidChange::Removal);
+            EXPECT_EQ(bench.hid.openDevices(), 0);
+            bench.link->pending().m_bMacroLibraryChanged = true;
+            bench.replug();
+            EXPECT_FALSE(bench.link->pending().m_bMacroLibraryChanged);
+            EXPECT_EQ(bench.hid.openDevices(), 2);
+        }
+        EXPECT_EQ(bench.settle(), (Words{"show 0", "show 0", "notice"}));
+    }
+    EXPECT_EQ(bench.files.log.size(), 4u);
+    bench.requests();
+    bench.pauses();
+    bench.link->close();
+    bench.link->close();
+    EXPECT_EQ(bench.requests(), Words{"05 7"});
+    EXPECT_THAT(bench.pauses(), ElementsAre(15, 10));
+    EXPECT_EQ(bench.hid.openDevices(), 0);
 }
 
 TEST(DeviceLink, HalfAKeyboardDoesWhatItCan) {

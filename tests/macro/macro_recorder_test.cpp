@@ -64,6 +64,8 @@ TEST(MacroRecorder, RepeatsAndMouseButtonsAreLeftOut) {
     EXPECT_TRUE(page.play("8 down 141 up").last.taken) << "the low byte is the key";
     EXPECT_EQ(page.actions(), "40 down 41 down 41 up 40 up 40 down 8 down 41 up ");
     EXPECT_FALSE(page.recorder.record(nullptr, 0x42, 5, true).taken);
+    page.recorder.start(page.macro);
+    EXPECT_EQ(page.play("41 up").actions(), "41 up ") << "a new recording repeats nothing";
 }
 
 TEST(MacroRecorder, DelaysStandBeforeAllKeysButTheFirstAndCountFrom1016Ms) {

@@ -142,11 +142,11 @@ TEST(MacroEditor, ANameThatTheListRefusesStaysInItsFieldForCorrection) {
         EXPECT_EQ(nameMacro(ui, page, "Fire", clickList), "Fire");
         EXPECT_EQ(nameMacro(ui, page, "ThirteenChars", clickList), "ThirteenChars");
         EXPECT_EQ(nameMacro(ui, page, "kept", [&] { clickControl(page, ids.deleteMacro); }), "kept");
-        EXPECT_EQ(nameMacro(ui, page, "Ice", clickList), "-");
+        EXPECT_EQ(nameMacro(ui, page, "TwelveChars_", clickList), "-");
     });
     EXPECT_THAT(page.editor.notes, ElementsAre(refused(MacroRefusal::ListNameTaken),
                                                refused(MacroRefusal::ListNameTooLong), "changed", "changed"));
-    EXPECT_THAT(macroNames(page.library), ElementsAre("Ice"));
+    EXPECT_THAT(macroNames(page.library), ElementsAre("TwelveChars_"));
 }
 
 TEST(MacroEditor, ANoticeThatOpensInAPressTakesItsReleaseAndTheNextClickWorks) {
@@ -173,11 +173,12 @@ TEST(MacroEditor, ANoticeThatOpensInAPressTakesItsReleaseAndTheNextClickWorks) {
 
 TEST(MacroEditor, SaysWhatItCannotDo) {
     EditorWindow page(macroPageRules, {"Fire", "Ice"});
-    page.editor.protectedName = "Fire";
+    page.editor.protectedName = "Ice";
     page.play([&] {
-        clickControl(page, ids.deleteMacro);
         clickAt(page, {50, 30});
         EXPECT_EQ(page.editor.shownMacro(), &page.library.sets[0].keys[1]);
+        clickControl(page, ids.deleteMacro);
+        clickAt(page, {50, 10});
         clickControl(page, ids.deleteMacro);
         EXPECT_EQ(page.editor.shownMacro(), nullptr);
         clickControl(page, ids.deleteMacro);
@@ -191,6 +192,31 @@ TEST(MacroEditor, SaysWhatItCannotDo) {
         page.editor.notes,
         ElementsAre(refused(MacroRefusal::MacroInUse), "changed", refused(MacroRefusal::NothingToDelete),
                     refused(MacroRefusal::NothingToRecord), refused(MacroRefusal::NoMacroSet)));
+}
+
+TEST(MacroEditor, ListsScrollByWheelAndBarAsFarAsTheirRowsGo) {
+    EditorWindow page(macroPageRules, std::vector<std::string>(10, "M"));
+    page.play([&] {
+        page.OnMouseMove(0, {50, 30});
+        for (const auto& [delta, first] : {std::pair{120, 0}, {-120, 1}, {-120, 2}, {120, 1}}) {
+            page.editor.onMouseWheel(delta);
+            EXPECT_EQ(page.editor.macros().m_nFirstRow, first);
+        }
+        using Bar = CVScrollBar;
+        for (const auto& [part, first] : {std::pair{Bar::partDown, 2},
+                                          {Bar::partBelow, 6},
+                                          {Bar::partDown, 6},
+                                          {Bar::partUp, 5},
+                                          {Bar::partAbove, 1},
+                                          {Bar::partThumb, 1}}) {
+            page.send(ids.macroScrollBar, part, NOTIFY_DOWN);
+            EXPECT_EQ(page.editor.macros().m_nFirstRow, first);
+        }
+        page.control<Bar>(ids.macroScrollBar)->SetScrollState(3, 4, 10);
+        page.send(ids.macroScrollBar, 0, NOTIFY_DRAG);
+        EXPECT_EQ(page.editor.macros().m_nFirstRow, 3);
+        EXPECT_EQ(page.editor.actions().m_nFirstRow, 0);
+    });
 }
 
 TEST(MacroEditor, RecordingReplacesTheMacroWithTheOtherControlsDisabled) {

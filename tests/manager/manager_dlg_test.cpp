@@ -164,6 +164,20 @@ TEST_F(MacroManager, OkWithAMacroResetsTheMainLibraryAndALongFileOpensEmpty) {
     EXPECT_THAT(setNames(library), ElementsAre(std::string(defaultMacroSetName)));
 }
 
+TEST_F(MacroManager, SaysInPicturesWhatItCannotDo) {
+    CMacroManagerDlg dialog(nullptr, files, folder, 0);
+    playIn(dialog, [&](UiScenario& ui) {
+        for (const auto& [button, role] : {std::pair{newMacroButton, "CMacroManagerNoteDlg"},
+                                           {recordSwitch, "CMacroManagerNoteDlg"},
+                                           {deleteMacroButton, "CMacroManagerAttentionDlg"}}) {
+            ui.start([&dialog, control = button] { clickControl(dialog, control); });
+            EXPECT_TRUE(UiScenario::windowShown(role, companionSize)) << button;
+            UiScenario::keys("Return");
+            EXPECT_TRUE(UiScenario::windowShown("CMacroManagerDlg", managerSize)) << button;
+        }
+    });
+}
+
 TEST_F(MacroManager, TheListOfSetsOpensUnderItsFieldAndLeadsToTheNameDialogs) {
     store(libraryOf("One", {}));
     CMacroManagerDlg dialog(nullptr, files, folder, 0);

@@ -57,10 +57,9 @@ TEST_F(Activation, ThePopupIsDeactivatedWhenTheProgramLosesTheFocusOrTheOwnerGoe
     ASSERT_TRUE(logged("main key other")) << "the main window has the focus";
     showPopup(m_popup, m_main);
     m_log.clear();
-    {
-        const OtherProgram other;
-        EXPECT_TRUE(logged("popup inactive"));
-    }
+    auto other = anotherProgram();
+    EXPECT_TRUE(logged("popup inactive"));
+    other.reset();
     settle();
 
     m_popup.raise();

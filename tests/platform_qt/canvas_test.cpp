@@ -5,6 +5,7 @@
 #include <array>
 
 #include "platform/builtin_resources.h"
+#include "platform_qt/fonts.h"
 
 namespace tarnix {
 namespace {
@@ -56,6 +57,38 @@ TEST(Canvas, LeavesTheKeyColourOutAndSeesLaterPaintingOfASurface) {
     target->canvas().drawKeyed(source->image(), Rect::at(0, 0, 3, 1), {1, 1}, red);
     EXPECT_EQ(target->image().pixel({1, 1}), green);
     EXPECT_EQ(target->image().pixel({3, 1}), white);
+}
+
+TEST(Canvas, ALineThatIsTooLongShrinksOrIsCutBetweenCharacters) {
+    const QString accented = QStringLiteral("e\u0301").repeated(40);
+    const FittedLine cut = fitLine(accented, 100, {.ellipsis = false});
+    EXPECT_TRUE(accented.startsWith(cut.text));
+    EXPECT_GT(cut.text.size(), 10);
+    EXPECT_EQ(cut.text.size() % 2, 0) << "letters keep their accents";
+    const FittedLine dotted = fitLine(accented, 100, {.ellipsis = true});
+    EXPECT_TRUE(dotted.text.endsWith(QChar(0x2026)));
+    const FittedLine shrunk = fitLine(accented, 300, {.shrinks = true, .ellipsis = false});
+    EXPECT_EQ(shrunk.text, accented);
+    const FittedLine smallest = fitLine(accented, 100, {.shrinks = true, .ellipsis = false});
+    EXPECT_EQ(smallest.font.pixelSize(), 8);
+    EXPECT_LT(smallest.text.size(), 80);
+    EXPECT_LE(std::max({cut.width, dotted.width, smallest.width, shrunk.width / 3}), 100);
+}
+
+TEST(Canvas, TextStaysInItsAreaAndInTheMiddleOfIt) {
+    const auto surface = makeSurface({60, 30});
+    surface->canvas().fill(Rect::at(0, 0, 60, 30), white);
+    const Rect area{10, 12, 50, 18}; // lower than the letters
+    surface->canvas().drawText("M", area, {.color = 0, .centred = true, .verticalCentred = true});
+    Rect inked{60, 30, 0, 0};
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 60; ++x)
+            if (surface->image().pixel({x, y}) != white)
+                inked = {std::min(inked.left, x), std::min(inked.top, y), std::max(inked.right, x + 1),
+                         std::max(inked.bottom, y + 1)};
+    EXPECT_EQ(inked.top, area.top);
+    EXPECT_EQ(inked.bottom, area.bottom);
+    EXPECT_NEAR(inked.left + inked.right, area.left + area.right, 3);
 }
 
 } // namespace

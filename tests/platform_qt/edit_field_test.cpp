@@ -75,6 +75,19 @@ TEST_F(Edit, TheWindowSeesEachKeyOnceAndFirst) {
     EXPECT_EQ(changes(1), 0);
 }
 
+TEST_F(Edit, AFieldMayBeDeletedByItsOwnEnterAndTheKeysGoToTheWindow) {
+    auto field = std::make_unique<EditField>(m_window, 1, Rect::at(20, 20, 150, 20));
+    field->setFocus();
+    m_window.onKey = [&](const KeyPress& key) {
+        if (key.key == KeyPress::Key::Enter) field.reset();
+    };
+    tapKey("Return");
+    ASSERT_TRUE(logged("key up Enter"));
+    tapKey("a");
+    ASSERT_TRUE(logged("key up other"));
+    EXPECT_THAT(m_log, ElementsAre("key Enter", "key up Enter", "key other", "key up other"));
+}
+
 TEST_F(Edit, WhileKeysAreInterceptedNoWindowAndNoFieldActsOnThem) {
     EditField field(m_window, 1, Rect::at(20, 20, 150, 20));
     field.setFocus();

@@ -15,6 +15,7 @@ class Hand : public RecordingWindow {
     void OnLButtonDown(unsigned flags, Point at) override {
         RecordingWindow::OnLButtonDown(flags, at);
         if (captures) captureMouse();
+        if (moves) startMove();
     }
     void OnLButtonUp(unsigned flags, Point at) override {
         RecordingWindow::OnLButtonUp(flags, at);
@@ -22,6 +23,7 @@ class Hand : public RecordingWindow {
     }
     bool captures = false;
     bool tracks = false;
+    bool moves = false;
 };
 
 class Mouse : public WindowTest {
@@ -62,6 +64,42 @@ TEST_F(Mouse, CaptureBringsWhatHappensOutsideAndLeaveComesAfterTheRelease) {
     movePointer({610, 710});
     settle();
     EXPECT_THAT(m_log, IsEmpty()) << "the capture is over";
+}
+
+TEST_F(Mouse, AWindowFollowsThePointerThatStartedToMoveItUntilTheRelease) {
+    showMain(m_window);
+    m_window.startMove();
+    movePointer({150, 180});
+    ASSERT_TRUE(logged("move 0 50,60")) << "with no button down there is nothing to move";
+    m_window.moves = true;
+    pressButton();
+    ASSERT_TRUE(logged("down 1 50,60"));
+    // A window manager takes the keyboard when it takes over, and tells the place at the end.
+    ASSERT_TRUE(runUntil([&] {
+        movePointer({170, 200});
+        return m_window.screenRect() != mainPlace || m_log.back() == "inactive";
+    }));
+    movePointer({350, 380});
+    releaseButton();
+    EXPECT_TRUE(runUntil([&] { return m_window.screenRect() == mainPlace.moved(200, 200); }));
+    m_window.moves = false;
+    settle();
+    click({360, 390});
+    ASSERT_TRUE(logged("up 0 60,70"));
+    std::erase_if(m_log, [](const std::string& entry) { return !entry.starts_with("up"); });
+    EXPECT_THAT(m_log, ElementsAre("up 0 60,70"));
+}
+
+TEST_F(Mouse, WhatTheOutlineLeavesOutIsNoPartOfTheWindow) {
+    showMain(m_window);
+    const Rect outline[] = {Rect::at(0, 0, 150, 200), Rect::at(150, 100, 150, 100)};
+    m_window.setShape(outline);
+    settle();
+    for (const Point at : {Point{300, 150}, {200, 150}, {300, 250}})
+        click(at);
+    ASSERT_TRUE(logged("up 0 200,130"));
+    std::erase_if(m_log, [](const std::string& entry) { return !entry.starts_with("up"); });
+    EXPECT_THAT(m_log, ElementsAre("up 0 100,30", "up 0 200,130"));
 }
 
 } // namespace

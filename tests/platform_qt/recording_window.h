@@ -1,6 +1,7 @@
 // A window that writes down what happens to it.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,7 @@ class RecordingWindow : public Window {
     void OnActivate(bool active) override { note(active ? "active" : "inactive"); }
     bool OnKey(const KeyPress& key) override {
         static const char* const names[] = {"other", "Enter", "Escape", "Tab", "Space"};
+        if (onKey) onKey(key);
         note(std::string(key.down ? "key " : "key up ") + names[static_cast<int>(key.key)]);
         return swallowsKeys;
     }
@@ -43,6 +45,7 @@ class RecordingWindow : public Window {
     }
     int paints = 0;
     bool swallowsKeys = false;
+    std::function<void(const KeyPress&)> onKey;
 
   protected:
     static std::string text(unsigned flags, Point at) {

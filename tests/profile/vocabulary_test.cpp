@@ -18,5 +18,19 @@ TEST(Vocabulary, OwnFunctionCodesAreGivenToTheirButtonsAlone) {
     EXPECT_EQ(row(0xE3), "227 227 227 227 227 227 239 227 ");
 }
 
+TEST(Vocabulary, KeysComeBackFromTheirCodesUnderTheirNamesButForTheOddOnes) {
+    std::string odd;
+    for (int n = 0; n < 256; ++n) {
+        const auto key = static_cast<std::uint8_t>(n);
+        const std::uint8_t code = ToKeyCode(key);
+        const bool same = ToVirtualKey(code) == key && VirtualKeyName(key) == KeyCodeName(code);
+        if (code != 0 && !same)
+            odd.append(VirtualKeyName(key)).append(" as ").append(KeyCodeName(code)) += '\n';
+    }
+    EXPECT_EQ(odd,
+              "Keypad Enter as Keypad Eenter\nPrint Screen as Print\nDel as I\nUndefined as Esc\n"
+              "Win_L as Win_L\nAlt_R as Print\nK45 as K45\n");
+}
+
 } // namespace
 } // namespace tarnix

@@ -38,7 +38,7 @@ class ControlsTest : public SkinTest {
   protected:
     void SetUp() override {
         SkinTest::SetUp();
-        g_nRadioMask = 0xAA;
+        g_nRadioMask = 0xCA;
         g_nMainPage = g_nSubPage = 0;
         for (int count : {3, 5, 7})
             pictures.addStrip(strip + static_cast<unsigned>(count), count, {20, 8}, 2);
@@ -115,7 +115,7 @@ TEST_F(ControlsTest, RadioChoiceIsSharedByAllWindowsAndClearsItsGroupAlone) {
     twin.LoadImage(strip + 3);
     EXPECT_EQ(frames(twin), "0120");
     const std::pair<unsigned, std::uint32_t> clicks[] = {
-        {2010, 0xB2}, {2008, 0xB4}, {2014, 0x134}, {2005, 0x134}, {2015, 0x134}};
+        {2010, 0xD2}, {2008, 0xD4}, {2014, 0x154}, {2005, 0x154}, {2015, 0x154}};
     for (const auto& [id, mask] : clicks) {
         feed(button<CRadioButton>(id), "du");
         EXPECT_EQ(g_nRadioMask, mask) << id;

@@ -83,9 +83,33 @@ TEST_F(RoutingTest, OnlyWhatChangedIsPaintedAndATabPaintsTheWholeFace) {
     EXPECT_EQ(repainted(), left);
     a->SetText("Caption");
     EXPECT_EQ(repainted(), Rect{});
+    auto& check = dialog.make<CCheckButton>(0, 2112u, Rect::at(120, 150, 30, 30));
+    click({125, 155});
+    repainted();
+    dialog.OnLButtonDblClk(0, {125, 155});
+    dialog.OnLButtonUp(0, {125, 155});
+    EXPECT_EQ(repainted(), check.GetRect()) << "its mark, though the pointer's state stays";
     dialog.make<CTabControl>(0, 2003u, Rect::at(200, 150, 30, 30));
     click({205, 155});
     EXPECT_EQ(repainted(), dialog.clientRect());
+}
+
+/// Counts its paintings.
+struct Painted : CImageButton {
+    using CImageButton::CImageButton;
+    void Draw(Canvas&, const Rect&) override { ++count; }
+    int count = 0;
+};
+
+TEST_F(RoutingTest, HiddenControlsAndThoseOutsideTheClipAreNotPainted) {
+    auto& control = dialog.make<Painted>(1, 2103u, left);
+    const auto surface = makeSurface({400, 300});
+    const std::tuple<Rect, bool, int> cases[] = {{left, true, 1}, {right, true, 1}, {left, false, 1}};
+    for (const auto& [clip, visible, count] : cases) {
+        control.SetVisible(visible);
+        dialog.controls().draw(surface->canvas(), clip);
+        EXPECT_EQ(control.count, count);
+    }
 }
 
 TEST_F(RoutingTest, EscapeClosesANameFieldBeforeItCancels) {
@@ -103,6 +127,13 @@ TEST_F(RoutingTest, EscapeClosesANameFieldBeforeItCancels) {
     EXPECT_FALSE(dialog.OnKey({KeyPress::Key::Space, true})) << "a name may hold blanks";
 }
 
+TEST(BackgroundTest, TheOutlineLeavesYellowOut) {
+    const auto bitmap = makeSurface({6, 3});
+    for (const Rect& yellow : {Rect{0, 0, 1, 1}, {3, 0, 4, 1}, {5, 0, 6, 1}, {0, 1, 6, 2}})
+        bitmap->canvas().fill(yellow, rgb(255, 255, 0));
+    EXPECT_EQ(outlineOf(bitmap->image()), (std::vector<Rect>{{1, 0, 3, 1}, {4, 0, 5, 1}, {0, 2, 6, 3}}));
+}
+
 TEST(BackgroundTest, EdgesFadeToTheAverageColourWhereTheWindowIsLargerThanTheBitmap) {
     const std::pair<Size, int> fades[] = {
         {{805, 588}, 0}, {{806, 600}, 0}, {{80, 600}, 80}, {{804, 588}, 100}, {{300, 40}, 40}};
@@ -110,7 +141,8 @@ TEST(BackgroundTest, EdgesFadeToTheAverageColourWhereTheWindowIsLargerThanTheBit
         EXPECT_EQ(fadeWidthFor({805, 588}, bitmap), fade) << bitmap.width;
 
     const auto bitmap = makeSurface({300, 200});
-    bitmap->canvas().fill({0, 0, 300, 100}, rgb(200, 0, 0));
+    bitmap->canvas().fill({0, 0, 300, 100}, rgb(200, 100, 0));
+    EXPECT_EQ(averageColor(bitmap->image()), rgb(100, 50, 0));
     Background background;
     background.load(bitmap->image(), {400, 400});
     const auto window = makeSurface({400, 400});

@@ -113,6 +113,8 @@ TEST_F(ListsTest, ClickSelectsTheRowAndAScrolledListMaySelectPastItsEnd) {
     EXPECT_EQ(rowColor(*names, 0), listColor);
     names->ScrollToEnd();
     EXPECT_EQ(rowColor(*names, 2), selectionColor);
+    names->BeginNewName();
+    EXPECT_EQ(names->m_nFirstRow, 2) << "five rows show the new name's, too";
 
     for (int i = 0; i < 4; ++i)
         AppendAction(library.sets[0].keys[5], MacroAction::delay(500));

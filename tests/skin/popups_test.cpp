@@ -77,14 +77,18 @@ TEST_F(PopupsTest, ListHasTheSizeOfItsRowsAndTellsOfALossOfActivationUntilItIsLe
         opened.OnActivate(false);
         EXPECT_EQ(dialog.take(), Notices{lost});
         EXPECT_EQ(dialog.popups().at(place), &opened);
-        dialog.popups().close(place);
+        CListPopup& next = open<CProfilePopup>(place);
         opened.OnActivate(false);
         EXPECT_EQ(dialog.take(), Notices{}) << "a popup that was let go speaks no more for its place";
+        next.destroyWindow();
+        EXPECT_TRUE(testing::runUntil([this] { return !dialog.popups().any(); })) << lost;
+        dialog.take();
     }
 }
 
 TEST_F(PopupsTest, EveryRowOfTheFixedListsAnswersWithItsOwnRecord) {
-    const auto check = [this](CListPopup& popup, const std::vector<std::array<std::uint8_t, 4>>& records) {
+    using Bytes = std::array<std::uint8_t, 4>;
+    const auto check = [this](CListPopup& popup, const std::vector<Bytes>& records) {
         ASSERT_EQ(popup.rows().size(), records.size());
         for (std::size_t row = 0; row < records.size(); ++row) {
             choose(popup, row);
@@ -93,11 +97,19 @@ TEST_F(PopupsTest, EveryRowOfTheFixedListsAnswersWithItsOwnRecord) {
             EXPECT_EQ(got.back(), (Answer{{notify, tag, 0}, popup.rows()[row].text, records[row]}));
         }
     };
-    check(open<CProfilePopup>(PopupPlace::Multimedia),
-          {{2, 0xA0}, {2, 0xA1}, {2, 0xA2}, {2, 0xA3}, {2, 0xA4}, {2, 0xA5}, {2, 0xA6}, {2, 0xA7}});
+    const auto counted = [](int rows, Bytes record, std::size_t counter) {
+        std::vector<Bytes> records;
+        for (; rows > 0; --rows, ++record[counter])
+            records.push_back(record);
+        return records;
+    };
+    check(open<CProfilePopup>(PopupPlace::Multimedia), counted(8, {2, 0xA0}, 1));
+    check(open<CDPIPopup>(PopupPlace::Web), counted(10, {2, 0xA8}, 1));
     check(open<CMultimediaPopup>(PopupPlace::Mouse),
           {{3, 1}, {3, 2}, {3, 4}, {3, 8}, {3, 16}, {4, 0}, {5, 0}});
-    check(open<CLightSpeedPopup>(PopupPlace::LightSpeed), {{0}, {1}, {2}});
+    check(open<CLightModePopup>(PopupPlace::LightMode), counted(16, {}, 0));
+    check(open<CLightBrightnessPopup>(PopupPlace::LightBrightness), counted(5, {}, 0));
+    check(open<CLightSpeedPopup>(PopupPlace::LightSpeed), counted(3, {}, 0));
 }
 
 TEST_F(PopupsTest, CategoryListAnswersPressesAndHoversAndHasItsOwnMessages) {
@@ -129,6 +141,7 @@ TEST_F(PopupsTest, ReleaseOutsideThePressedRowSendsNothingAndTakesTheHighlightAw
     popup.OnMouseMove(0, middle(popup, 2));
     popup.OnLButtonDown(0, middle(popup, 2));
     popup.OnMouseMove(0, middle(popup, 3));
+    popup.OnMouseLeave();
     EXPECT_EQ(popup.hotRow(), 2);
     popup.OnLButtonUp(0, middle(popup, 3));
     EXPECT_EQ(popup.hotRow(), -1);

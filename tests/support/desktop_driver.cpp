@@ -86,30 +86,18 @@ void typeText(const std::string& text) {
     hand({"type", "--delay", "2", QString::fromStdString(text)});
 }
 
-struct OtherProgram::Connection {
+std::shared_ptr<void> anotherProgram() {
     xcb_connection_t* x11 = xcb_connect(nullptr, nullptr);
-    ~Connection() { xcb_disconnect(x11); }
-};
-
-OtherProgram::OtherProgram() : m_connection(std::make_unique<Connection>()) {
-    xcb_connection_t* x11 = m_connection->x11;
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(x11)).data;
     const xcb_window_t window = xcb_generate_id(x11);
-    const std::uint32_t wanted = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-    xcb_create_window(x11, XCB_COPY_FROM_PARENT, window, screen->root,
-                      static_cast<std::int16_t>(screen->width_in_pixels - 60), 10, 50, 50, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, XCB_CW_EVENT_MASK, &wanted);
+    const std::uint32_t unmanaged = 1;
+    xcb_create_window(x11, XCB_COPY_FROM_PARENT, window, screen->root, 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, XCB_CW_OVERRIDE_REDIRECT,
+                      &unmanaged);
     xcb_map_window(x11, window);
-    xcb_flush(x11);
-    while (xcb_generic_event_t* event = xcb_wait_for_event(x11)) {
-        const bool mapped = (event->response_type & 0x7F) == XCB_MAP_NOTIFY;
-        std::free(event);
-        if (mapped) break;
-    }
     xcb_set_input_focus(x11, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
     std::free(xcb_get_input_focus_reply(x11, xcb_get_input_focus(x11), nullptr));
+    return {x11, [](void* connection) { xcb_disconnect(static_cast<xcb_connection_t*>(connection)); }};
 }
-
-OtherProgram::~OtherProgram() = default;
 
 } // namespace tarnix::testing

@@ -34,17 +34,7 @@ void turnWheel(bool up);
 void tapKey(const std::string& name);
 void typeText(const std::string& text);
 
-/// Another program with a window at the right edge of the screen, which takes the keyboard focus.
-class OtherProgram {
-  public:
-    OtherProgram();
-    ~OtherProgram();
-    OtherProgram(const OtherProgram&) = delete;
-    OtherProgram& operator=(const OtherProgram&) = delete;
-
-  private:
-    struct Connection;
-    std::unique_ptr<Connection> m_connection;
-};
+/// Another program, which has the keyboard focus as long as the answer lives.
+std::shared_ptr<void> anotherProgram();
 
 } // namespace tarnix::testing

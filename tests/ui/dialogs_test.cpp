@@ -143,12 +143,13 @@ TEST_F(KeyMap, ReportsTheSelectedSideAlone) {
         hookEvent(dialog, 0);
         choose(dialog, {"Menu", {3, 2, 0, 0}});
     });
+    map(0xD5, [](CDlgBase& dialog) { clickControl(dialog, keymap::keyRadio); });
     map(0xD5, [](CDlgBase& dialog) {
         hookEvent(dialog, 'B');
         clickControl(dialog, keymap::ownFunction);
         EXPECT_EQ(label(dialog, keymap::keyFunction), "F1");
     });
-    EXPECT_THAT(owner.received, ElementsAre("2201 D6", "2201 05", "2201 C0"));
+    EXPECT_THAT(owner.received, ElementsAre("2201 D6", "2201 05", "2201 C0", "2201 C0"));
 }
 
 TEST_F(KeyMap, MouseFunctionsComeFromTheirListAndAnUnknownRecordFallsBack) {
@@ -213,7 +214,7 @@ TEST_F(Shortcut, ReportsModifiersInTheirOrderAndTheKey) {
     build({shortcut::alt}, 0, &owner);
     build({shortcut::singleKey}, 0x74, &owner);
     build({shortcut::win, shortcut::alt, shortcut::shift, shortcut::ctrl}, 'Z', &owner);
-    build({shortcut::singleKey, shortcut::ctrl}, 0x74, &owner);
+    build({shortcut::singleKey, shortcut::ctrl, shortcut::singleKey}, 0x74, &owner);
     build({shortcut::ctrl, shortcut::ctrl}, 0, &owner);
     build({}, 0, &owner);
     build({shortcut::ctrl}, 'A', nullptr);

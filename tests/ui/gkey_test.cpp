@@ -3,7 +3,6 @@
 #include "main_window_bench.h"
 #include "skin/selection.h"
 #include "skin/sent.h"
-#include "ui/dialog_layouts.h"
 
 namespace tarnix {
 namespace {
@@ -66,6 +65,7 @@ TEST_F(GKeyPage, AFunctionFromAListBesideTheMenuIsStoredUnderItsName) {
         };
         for (const auto& choice : choices) {
             bench.store.SetGKeyUrl(0, choice.slot, "/old");
+            bench.window->link().pending().clearAll();
             openMenu(choice.field);
             bench.point(PopupPlace::Category, choice.menuRow);
             ASSERT_TRUE(bench.isOpen(choice.place)) << choice.name;
@@ -74,13 +74,42 @@ TEST_F(GKeyPage, AFunctionFromAListBesideTheMenuIsStoredUnderItsName) {
             expectClosed(choice.field);
             EXPECT_EQ(bench.field(choice.field).valueText(), choice.name);
             EXPECT_EQ(slot(choice.slot), (GKeySlot{choice.name, "", choice.value}));
+            EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
         }
-        EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
         for (int row = PendingWrites::firstMacroRow; row < PendingWrites::rowCount; ++row)
             EXPECT_EQ(marked(row), row == 6) << row;
         bench.click(id::applyButton);
         EXPECT_EQ(bench.keyboard.profiles[0].gKeys[12], 1);
         EXPECT_EQ(bench.keyboard.profiles[0].macros[4].name, "Tap");
+    });
+}
+
+TEST_F(GKeyPage, AListBesideTheMenuGivesWayToTheNextAndClosesWithItUnlessThePointerIsOnTheMenu) {
+    run([&] {
+        openMenu(id::gKeyField1);
+        bench.point(PopupPlace::Category, multimediaRow);
+        bench.point(PopupPlace::Category, webRow);
+        EXPECT_FALSE(bench.isOpen(PopupPlace::Multimedia));
+        const auto staysOpen = [&](Message closing, LParam kind) {
+            bench.window->send(closing, id::gKeyField1, kind);
+            return bench.isOpen(PopupPlace::Category) && bench.isOpen(PopupPlace::Web);
+        };
+        EXPECT_TRUE(staysOpen(msg::categoryClosing, 0) && staysOpen(msg::webClosing, 1));
+        const Rect menu = bench.list(PopupPlace::Category).screenRect();
+        testing::movePointer({menu.left + 20, menu.top + 45}); // its third row, which is hot
+        settle();
+        EXPECT_TRUE(staysOpen(msg::webClosing, 2));
+        testing::movePointer({1200, 1000});
+        settle();
+        EXPECT_FALSE(staysOpen(msg::webClosing, 2));
+        expectClosed(id::gKeyField1);
+        openMenu(id::gKeyField1);
+        bench.window->send(msg::categoryClosing, id::gKeyField1, 1);
+        EXPECT_TRUE(bench.isOpen(PopupPlace::Category));
+        bench.click(id::closeButton);
+        EXPECT_FALSE(bench.window->isVisible() || bench.window->popups().any());
+        bench.window->send(msg::categoryClosing, id::gKeyField1, 0);
+        expectClosed(id::gKeyField1);
     });
 }
 
@@ -93,6 +122,9 @@ TEST_F(GKeyPage, TheMenusOwnFunctionsNeedNoList) {
         openMenu(id::gKeyField4);
         bench.choose(PopupPlace::Category, defaultRow);
         EXPECT_EQ(slot(3), (GKeySlot{"CTRL+4", "", {6, 1, 0x21}}));
+        bench.store.SetGKeyName(0, 5, "sixth");
+        bench.window->ShowCurrentProfile();
+        EXPECT_EQ(bench.field(id::gKeyField2).valueText(), "sixth") << "the slot without a field";
     });
 }
 
@@ -101,17 +133,15 @@ TEST_F(GKeyPage, DialogsAnswerForTheFieldThatOpenedThem) {
         const SelectionRecord shortcut{"Ctrl+Shift+A", {6, 3, 4}};
         sendSelection(*bench.window, msg::shortcutChosen, 0, shortcut);
         EXPECT_EQ(slot(1).Name, "CTRL+2") << "no field is waiting yet";
-        const std::tuple<Message, Size, Point> dialogs[] = {
-            {msg::shortcutWanted, dialog::shortcut::size, {150, 176}},
-            {msg::launchWanted, dialog::launch::size, {180, 212}}};
-        for (const auto& [wanted, size, cancel] : dialogs) {
+        for (const Message wanted : {msg::shortcutWanted, msg::launchWanted}) {
             openMenu(id::gKeyField2);
             bench.window->send(wanted, id::gKeyField2);
             expectClosed(id::gKeyField2);
-            EXPECT_TRUE(bench.answered(settle, bench.clicksIn(size, {cancel})));
+            EXPECT_TRUE(bench.answered(settle, [](CDlgBase& dialog) { dialog.endModal(IDCANCEL); }));
         }
         sendSelection(*bench.window, msg::shortcutChosen, 0, shortcut);
         EXPECT_EQ(slot(1), (GKeySlot{"Ctrl+Shift+A", "", {6, 3, 4}}));
+        EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
 
         const std::string path = "/usr/bin/editor";
         const Sent<std::string> sent(path);

@@ -1,7 +1,10 @@
 #include <gmock/gmock.h>
 
+#include "macro_manager/manager_layout.h"
 #include "main_window_bench.h"
 #include "platform/edit_field.h"
+#include "skin/static_text.h"
+#include "ui/dialog_layouts.h"
 
 namespace tarnix {
 namespace {
@@ -19,9 +22,14 @@ class MacroPage : public ::testing::Test {
             scenario();
         });
     }
-    /// True when the work shows a notice, which is then answered.
-    bool raisesNotice(const std::function<void()>& work) {
-        return bench.answered(work, [] { testing::tapKey("Return"); });
+    /// The text of the notice that the work shows, which is then answered.
+    std::string noticeOf(const std::function<void()>& work) {
+        std::string text;
+        bench.answered(work, [&text](CDlgBase& notice) {
+            text = notice.control<CStaticText>(dialog::notice::message)->m_strLabel;
+            notice.OnKey({KeyPress::Key::Enter, true});
+        });
+        return text;
     }
     void addMacro(const std::string& name) {
         bench.click(id::macroButton1);
@@ -54,7 +62,9 @@ TEST_F(MacroPage, ALoopCountOutsideItsRangeBecomesOne) {
         list().SelectSet(0);
         bench.window->send(id::macroList, 0, NOTIFY_CLICK);
         const Rect window = bench.window->screenRect();
-        testing::click({window.left + loopCountFieldRect.left + 5, window.top + loopCountFieldRect.top + 11});
+        const Point field{window.left + loopCountFieldRect.left + 5,
+                          window.top + loopCountFieldRect.top + 11};
+        testing::click(field);
         testing::tapKey("ctrl+a");
         testing::typeText("255");
         EXPECT_TRUE(runUntil([&] { return set().keys[0].loopCount == 255; }));
@@ -63,11 +73,76 @@ TEST_F(MacroPage, ALoopCountOutsideItsRangeBecomesOne) {
         set().keys[0].loopCount = 0;
         bench.window->send(id::macroList, 0, NOTIFY_CLICK);
         EXPECT_EQ(set().keys[0].loopCount, 0);
-        EXPECT_TRUE(raisesNotice([&] { bench.window->OnEditChange(id::loopCountField); }));
+        EXPECT_EQ(noticeOf([&] { bench.window->OnEditChange(id::loopCountField); }),
+                  "The range of loop times is 1~255\xA3\xACPlease input again!");
         EXPECT_EQ(set().keys[0].loopCount, 1);
 
         bench.click(id::loopCheck);
         EXPECT_EQ(set().keys[0].loopEnable, 0U);
+        for (const unsigned tab : {id::keyPageTab, id::gKeyPageTab, id::lightingPageTab}) {
+            bench.window->send(id::macroPageTab, 0, NOTIFY_CLICK);
+            testing::click(field);
+            bench.window->send(tab, 0, NOTIFY_CLICK);
+            testing::typeText("7");
+            testing::settle();
+            EXPECT_EQ(set().keys[0].loopCount, 1) << "the field is away";
+        }
+    });
+}
+
+TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
+    run([&] {
+        const unsigned import = id::macroButton3;
+        const unsigned save = id::macroButton4;
+        const auto noticeAt = [&](unsigned button) { return noticeOf([&] { bench.click(button); }); };
+        EXPECT_EQ(noticeAt(import), "Please select which Macro to import!");
+        EXPECT_EQ(noticeAt(save), "Please select which Macro to export!");
+        EXPECT_EQ(noticeAt(id::macroButton2), "Please select which Macro to delete!");
+        EXPECT_EQ(noticeAt(id::recordSwitch), "Please select the macro which to record!");
+        for (const char* name : {"Tap", "Roll"})
+            AddMacroKey(set(), name);
+        list().SelectSet(0);
+        list().m_nSelected = 1;
+        bench.window->send(id::macroList, 0, NOTIFY_CLICK);
+        bench.click(save);
+        bench.click(import);
+        EXPECT_THAT(bench.changes(), ElementsAre()) << "cancelled";
+        bench.shell.nextFile = "/home/x.mkf";
+        EXPECT_EQ(noticeAt(import), "The Import file is error!");
+        set().keys[1].loopCount = 9;
+        bench.click(save);
+        EXPECT_THAT(bench.changes(), ElementsAre("replace /home/x.mkf"));
+        set().keys[1].loopCount = 1;
+        bench.click(import);
+        EXPECT_EQ(set().keys[1].loopCount, 9);
+        EXPECT_EQ(set().keys[0].loopCount, 1);
+        EXPECT_THAT(bench.changes(), ElementsAre("replace " + bench.file("MacroLibraryFile.mlf")));
+
+        bench.click(id::recordSwitch);
+        bench.window->send(0x401, 0x41, 5);
+        EXPECT_THAT(bench.changes(), ElementsAre());
+        bench.click(id::recordSwitch);
+        EXPECT_THAT(bench.changes(), ElementsAre("replace " + bench.file("MacroLibraryFile.mlf")));
+        EXPECT_THAT(set().keys[1].usedActions(), ElementsAre(MacroAction::key(0x41, false)));
+
+        *bench.store.GetGKeySlot(2, 0) = {"Roll", "", keyAssignment(FunctionType::Macro)};
+        EXPECT_EQ(noticeAt(id::macroButton2), "The Macro which want to delete is using,can't delete it!");
+        const std::pair<const char*, const char*> names[] = {{"Roll",
+                                                              "The macro is existen\xA3\xAC"
+                                                              "please new it again!"},
+                                                             {"ThirteenChars",
+                                                              "The lengh of name exceed 12\xA3\xAC"
+                                                              "please new it again!"}};
+        for (const auto& [name, notice] : names) {
+            addMacro(name);
+            EXPECT_EQ(noticeOf([&] { bench.window->OnKey({KeyPress::Key::Enter, true}); }), notice);
+        }
+
+        auto& actions = *bench.window->control<CImageShowList>(id::actionList);
+        EXPECT_EQ(actions.shownMacro(), 1);
+        bench.answered([&] { bench.window->send(msg::runMacroManager, 0, 1); },
+                       [](CDlgBase& dialog) { clickControl(dialog, manager::okButton); });
+        EXPECT_EQ(actions.shownMacro(), -1) << "the manager has left a library without macros";
     });
 }
 

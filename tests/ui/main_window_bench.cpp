@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform_qt/modal_runs.h"
 #include "profile/numbers.h"
 
 namespace tarnix {
@@ -78,34 +79,29 @@ Journal MainWindowBench::changes() {
     return all;
 }
 
-bool MainWindowBench::answered(const std::function<void()>& work, std::function<void()> answer) {
-    const auto over = std::make_shared<bool>(false);
-    m_attempts = 0;
-    loop().post([this, answer = std::move(answer), over] { attempt(answer, over); });
+bool MainWindowBench::answered(const std::function<void()>& work,
+                               const std::function<void(CDlgBase&)>& answer) {
+    bool shown = false;
+    answerNext([&](CDlgBase& dialog) {
+        shown = true;
+        answer(dialog);
+    });
     work();
-    *over = true;
-    return m_attempts > 0;
+    m_nextLook.reset();
+    return shown;
 }
 
-/// The desktop takes its time to show a dialog, so the answer may have to be given again.
-void MainWindowBench::attempt(std::function<void()> answer, std::shared_ptr<bool> over) {
-    if (*over) return;
-    ++m_attempts;
-    testing::settle();
-    answer();
-    m_nextAttempt = loop().after(Milliseconds(200), [this, answer, over] { attempt(answer, over); });
+void MainWindowBench::answerNext(const std::function<void(CDlgBase&)>& answer) {
+    m_nextLook = loop().after(Milliseconds(5), [this, answer] {
+        auto* dialog = dynamic_cast<CDlgBase*>(modalWindow());
+        const bool shown = dialog && dialog != window.get();
+        answerNext(answer);
+        if (shown) answer(*dialog);
+    });
 }
 
-std::function<void()> MainWindowBench::clicksIn(Size dialog, const std::vector<Point>& inDialog) {
-    const Point middle = centreOf(window->screenRect());
-    return [inDialog, corner = Point{middle.x - dialog.width / 2, middle.y - dialog.height / 2}] {
-        for (const Point at : inDialog)
-            testing::click({corner.x + at.x, corner.y + at.y});
-    };
-}
-
-bool MainWindowBench::clickAndAnswer(unsigned control, Size dialog, const std::vector<Point>& inDialog) {
-    return answered([&] { click(control); }, clicksIn(dialog, inDialog));
+bool MainWindowBench::clickAndAnswer(unsigned control, unsigned inDialog) {
+    return answered([&] { click(control); }, [=](CDlgBase& dialog) { clickControl(dialog, inDialog); });
 }
 
 CListPopup& MainWindowBench::list(PopupPlace place) {

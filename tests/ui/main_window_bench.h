@@ -27,11 +27,12 @@ using Journal = std::vector<std::string>;
 class PreparedShell : public Shell {
   public:
     std::optional<std::string> nextFile;
+    std::vector<std::string> opened;
 
     void messageBox(const std::string&) override {}
     std::optional<std::string> openFile(const FileDialog&, Window&) override { return nextFile; }
     std::optional<std::string> saveFile(const FileDialog&, Window&) override { return nextFile; }
-    void openLink(const std::string&) override {}
+    void openLink(const std::string& address) override { opened.push_back(address); }
     void launch(const std::string&) override {}
 };
 
@@ -76,14 +77,10 @@ class MainWindowBench {
     Journal changes();
 
     void click(unsigned control) { clickControl(*window, control); }
-    /// Does work that runs a dialog, and has the dialog answered, again and again until it has closed. True
-    /// when there was a dialog.
-    bool answered(const std::function<void()>& work, std::function<void()> answer);
-    /// The same: the work is a click on a control, the answer clicks in the dialog over the middle of the
-    /// window.
-    bool clickAndAnswer(unsigned control, Size dialog, const std::vector<Point>& inDialog);
-    /// An answer that clicks points of a dialog.
-    std::function<void()> clicksIn(Size dialog, const std::vector<Point>& inDialog);
+    /// Does work that runs a dialog, and has that answered once it is there. True when there was one.
+    bool answered(const std::function<void()>& work, const std::function<void(CDlgBase&)>& answer);
+    /// The same with a click that runs it and another one that answers it.
+    bool clickAndAnswer(unsigned control, unsigned inDialog);
     CListPopup& list(PopupPlace place);
     bool isOpen(PopupPlace place) const { return window->popups().at(place) != nullptr; }
     /// Moves over a row of an open list, or chooses it.
@@ -95,11 +92,10 @@ class MainWindowBench {
     static std::string file(const std::string& name) { return "/kbd/config\\" + name; }
 
   private:
-    void attempt(std::function<void()> answer, std::shared_ptr<bool> over);
+    void answerNext(const std::function<void(CDlgBase&)>& answer);
 
     bool m_hearsKeys = false;
-    int m_attempts = 0;
-    std::unique_ptr<MainLoop::Subscription> m_nextAttempt;
+    std::unique_ptr<MainLoop::Subscription> m_nextLook;
 };
 
 } // namespace tarnix

@@ -9,9 +9,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr Point okOfReset{198, 208};
-constexpr Point cancelOfReset{298, 208};
-
 Journal written(const MainWindowBench& bench, std::initializer_list<const char*> names) {
     Journal lines;
     for (const char* name : names)
@@ -32,6 +29,25 @@ Journal headers(const Journal& lines) {
     return all;
 }
 
+TEST(ProfileCommands, ApplySendsBeforeItSavesAndSavesAChangedLibraryOnce) {
+    MainWindowBench bench;
+    bench.run([&] {
+        bench.window->send(msg::keyCodeChosen, 2201, 62);
+        PendingWrites& pending = bench.window->link().pending();
+        pending.mark(PendingWrites::lightingRow, 2);
+        pending.m_bMacroLibraryChanged = true;
+        const Journal always =
+            Journal{"set 05 03 00"} + written(bench, {"config.ini", "default0.psf", "default1.psf",
+                                                      "default2.psf", "default3.psf", "default4.psf"});
+        bench.click(id::applyButton);
+        EXPECT_EQ(headers(bench.changes()), Journal({"set 07 08 02 00", "set 06 B8 00 00"}) + always +
+                                                written(bench, {"MacroLibraryFile.mlf"}));
+        bench.click(id::okButton);
+        EXPECT_EQ(headers(bench.changes()), always);
+        EXPECT_FALSE(bench.window->isVisible());
+    });
+}
+
 TEST(ProfileCommands, ResetWritesOneProfileAtOnceAndKeepsTheSixthMacroPending) {
     MainWindowBench bench;
     bench.run([&] {
@@ -42,15 +58,16 @@ TEST(ProfileCommands, ResetWritesOneProfileAtOnceAndKeepsTheSixthMacroPending) {
             pending.mark(row, 1);
         pending.mark(0, 0);
 
-        bench.clickAndAnswer(id::resetButton, dialog::wideSize, {cancelOfReset});
+        bench.clickAndAnswer(id::resetButton, dialog::cancelButton);
         EXPECT_THAT(bench.changes(), IsEmpty());
         EXPECT_TRUE(bench.cap(2201).m_bRemapped);
 
-        bench.clickAndAnswer(id::resetButton, dialog::wideSize, {okOfReset});
+        bench.clickAndAnswer(id::resetButton, dialog::okButton);
         EXPECT_THAT(headers(bench.changes()),
                     ElementsAre("replace " + bench.file("default1.psf"), "set 07 08 01 00", "set 06 B8 01 00",
                                 "set 05 03 01"));
-        EXPECT_FALSE(bench.cap(2201).m_bRemapped);
+        for (unsigned key = id::firstKeyCap; key < id::lastKeyCap; ++key) // the last one shares a key's place
+            EXPECT_FALSE(bench.cap(key).m_bRemapped) << key;
         for (int row = 0; row < PendingWrites::rowCount; ++row)
             EXPECT_EQ(pending.isMarked(row, 1), row == 7) << row;
         EXPECT_TRUE(pending.isMarked(0, 0));
@@ -66,7 +83,7 @@ TEST(ProfileCommands, RestoreResetsTheKeyboardsProfilesTheConfigurationAndTheFir
         bench.click(id::profileTab3);
         bench.window->send(msg::keyCodeChosen, 2201, 62);
 
-        bench.clickAndAnswer(id::restoreButton, dialog::wideSize, {okOfReset});
+        bench.clickAndAnswer(id::restoreButton, dialog::okButton);
         Journal expected = written(bench, {"config.ini"});
         for (const std::string n : {"0", "1", "2"})
             expected = expected + Journal{"replace " + bench.file("default" + n + ".psf"),
@@ -84,7 +101,9 @@ TEST(ProfileCommands, RestoreResetsTheKeyboardsProfilesTheConfigurationAndTheFir
 TEST(ProfileCommands, ProfileFilesBindTheSlotAndABadOneIsReplacedByTheDefaults) {
     MainWindowBench bench;
     bench.run([&] {
+        bench.store.setSetting(1, settingLightMode, "3");
         bench.click(id::profileTab2);
+        EXPECT_EQ(bench.field(id::lightModeField).valueText(), "Flow Right");
         const auto changesBy = [&](unsigned button) {
             bench.window->send(button, 0, NOTIFY_CLICK);
             return bench.changes();

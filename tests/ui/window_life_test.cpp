@@ -35,7 +35,9 @@ TEST(MainWindow, AStormOfMessagesLeavesItStanding) {
         bench.window->popups().closeAll();
     });
     bench.window->DoModal();
-    EXPECT_EQ(std::count(bench.files.log.begin(), bench.files.log.end(), farewell), 1);
+    const Journal& log = bench.files.log;
+    EXPECT_EQ(std::count(log.begin(), log.end(), farewell), 1);
+    EXPECT_THAT(Journal(log.end() - 2, log.end()), ::testing::ElementsAre(farewell, "tray removed"));
 }
 
 } // namespace

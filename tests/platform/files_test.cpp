@@ -59,7 +59,7 @@ TEST_F(SystemFilesTest, BackslashesAreSlashesUnlessSuchAFileExists) {
 
 TEST_F(SystemFilesTest, ReplacingNeverWritesIntoTheOldFileAndKeepsLinksAndPermissions) {
     put("real", "old");
-    ASSERT_EQ(::chmod(at("real").c_str(), 0640), 0);
+    ASSERT_EQ(::chmod(at("real").c_str(), 0646), 0);
     fs::create_hard_link(at("real"), at("witness"));
     fs::create_symlink("real", at("link"));
     fs::create_symlink(at("link"), at("outer"));
@@ -68,7 +68,7 @@ TEST_F(SystemFilesTest, ReplacingNeverWritesIntoTheOldFileAndKeepsLinksAndPermis
     EXPECT_EQ(files->read(at("real")), "new");
     EXPECT_EQ(files->read(at("witness")), "old");
     EXPECT_TRUE(fs::is_symlink(at("link")) && fs::is_symlink(at("outer")));
-    EXPECT_EQ(fs::status(at("real")).permissions(), fs::perms{0640});
+    EXPECT_EQ(fs::status(at("real")).permissions(), fs::perms{0646});
 
     fs::create_symlink("new target", at("dangling"));
     EXPECT_TRUE(files->replace(at("dangling"), "made"));

@@ -55,8 +55,8 @@ TEST_F(InstanceLockTest, IsNotHandedDownToALaunchedProgram) {
     std::ofstream(fifo) << "go on\n";
 }
 
-TEST_F(InstanceLockTest, TakesAFolderOfTheUsersOwnWhereTheSessionHasNone) {
-    ::unsetenv("XDG_RUNTIME_DIR");
+TEST_F(InstanceLockTest, TakesAFolderOfTheUsersOwnWhereTheSessionsIsOpenToOthers) {
+    fs::permissions(folder / "run", fs::perms::all);
     const auto lock = acquireInstanceLock("Some Program");
     ASSERT_NE(lock, nullptr);
     EXPECT_FALSE(otherProcessGetsLock("Some Program"));

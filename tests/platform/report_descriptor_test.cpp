@@ -36,5 +36,12 @@ TEST(ReportDescriptor, KeepsWhatAnyPieceOfADescriptorSaysAndReadsNoFurther) {
     EXPECT_TRUE(parseReportDescriptor(Bytes{0xFE, 0x05, 0x10, 0xA1, 0x01}).collections.empty());
 }
 
+TEST(ReportDescriptor, TakesTheUsagesOwnPageAndPopsWhatWasPushed) {
+    const Bytes extended = Bytes{0x0B, 1, 0, 0x0B, 0, 0xA1, 1, 0xA4, 0x85, 9, 0xB4} + input(8, 1);
+    const TopLevelCollection result = parseReportDescriptor(extended).collections.at(0);
+    EXPECT_EQ(result.usagePage, 0x0B);
+    EXPECT_TRUE(result.inputReports.test(0));
+}
+
 } // namespace
 } // namespace tarnix

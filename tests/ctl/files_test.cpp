@@ -33,7 +33,7 @@ ProfileRecord sampleProfile() {
     record.GKeys[0] = {"A \"quoted\" \\ name", "", keyAssignment(FunctionType::KeyCombination, 0x03, 0x04)};
     record.GKeys[1] = {"Fire", "", keyAssignment(FunctionType::Macro)};
     record.GKeys[2] = {"prog", "/usr/bin/prog", keyAssignment(FunctionType::Launch)};
-    record.GKeys[3] = {"?", "", {0x02, 0x01, 0x00}};
+    record.GKeys[3] = {"\xC2\x9B", "", {0x02, 0x01, 0x00}};
     return record;
 }
 
@@ -82,7 +82,7 @@ TEST_F(CtlFilesTest, ShowsFilesReadablyAndAsJsonWithoutSteeringTheTerminal) {
             HasSubstr("key: G1, name: A \"quoted\" \\ name, function: CTRL+SHIFT+A, value: 060304, url:\n"),
             HasSubstr("name: Fire, function: macro, value: 010000"),
             HasSubstr("function: program launch, value: 070000, url: /usr/bin/prog\n"),
-            HasSubstr("function: unknown function, value: 020100")));
+            HasSubstr("name: \\x9B, function: unknown function, value: 020100")));
     const std::string json = ctl("show --json p.psf").out;
     EXPECT_THAT(
         json,

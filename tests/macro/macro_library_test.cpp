@@ -40,23 +40,6 @@ TEST(MacroLibrary, InsertMovesLaterActionsUpAndRefusesAFullMacro) {
     EXPECT_EQ(delays(nearlyFull), delays(full));
 }
 
-TEST(MacroLibrary, IndexesOutOfRangeAreHarmless) {
-    MacroKey macro = macroWith(2);
-    MacroLibrary library;
-    resetMacroLibrary(library);
-    AddMacroKey(library.sets[0], "Fire");
-    for (const int index : {-1, 200, 250}) {
-        EXPECT_EQ(GetAction(macro, index), macro.actions[0]);
-        EXPECT_FALSE(SetAction(macro, index, MacroAction::delay(1)));
-        EXPECT_EQ(findMacro(library, index, 0), nullptr);
-        EXPECT_EQ(findMacro(library, 0, index), nullptr);
-        EXPECT_FALSE(RemoveMacroKey(library.sets[0], index));
-        EXPECT_FALSE(RemoveMacroSet(library, index));
-    }
-    EXPECT_EQ(findMacroName(library.sets[0], "fire"), -1);
-    EXPECT_EQ(findMacroName(library.sets[0], "Fire"), 0);
-}
-
 TEST(MacroLibrary, OnlyMacroSlotsOfTheKeyboardsProfilesKeepAMacroInUse) {
     ProfileStore store;
     *store.GetGKeySlot(3, 0) = {"Fire", "", keyAssignment(FunctionType::Macro)};

@@ -118,21 +118,6 @@ TEST_F(MacroManager, RecordsTheRealKeyboardAndLetsNoKeyDoAnythingElse) {
     });
 }
 
-TEST_F(MacroManager, RecordsLongPausesAndTwoHundredActionsWithoutCountingCommands) {
-    store(libraryOf("One", {"a"}));
-    CMacroManagerDlg dialog(nullptr, files, folder, 1);
-    play(dialog, [&] {
-        clickControl(dialog, recordDelays);
-        clickControl(dialog, recordSwitch);
-        for (unsigned i = 0; i < 150; ++i)
-            hookEvent(dialog, 0x41 + i % 2, 120000 * i);
-    });
-    const MacroKey& macro = dialog.library().sets[0].keys[0];
-    EXPECT_EQ(macro.actionCount, 200U);
-    EXPECT_EQ(macro.commandCount, 0);
-    EXPECT_EQ(macro.actions[1], MacroAction::delay(120000));
-}
-
 TEST_F(MacroManager, OkWithAMacroResetsTheMainLibraryAndALongFileOpensEmpty) {
     MacroLibrary library = libraryOf("One", {"a"});
     const auto openAndClick = [&](Point at) {

@@ -3,12 +3,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <functional>
 
-#include "platform/linux/launch.h"
 #include "platform/shell.h"
 #include "support/temp_folder.h"
 
@@ -42,18 +38,6 @@ class InstanceLockTest : public testing::Test {
 
     TempFolder folder;
 };
-
-TEST_F(InstanceLockTest, IsNotHandedDownToALaunchedProgram) {
-    auto lock = acquireInstanceLock("Some Program");
-    const fs::path fifo = folder / "fifo";
-    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
-    std::ofstream(folder / "sleeper") << "#!/bin/sh\nread line <'" << fifo.string() << "'\n";
-    fs::permissions(folder / "sleeper", fs::perms::owner_all);
-    launchTarget(folder / "sleeper", [](const std::string&) {});
-    lock.reset();
-    EXPECT_TRUE(otherProcessGetsLock("Some Program"));
-    std::ofstream(fifo) << "go on\n";
-}
 
 TEST_F(InstanceLockTest, TakesAFolderOfTheUsersOwnWhereTheSessionsIsOpenToOthers) {
     fs::permissions(folder / "run", fs::perms::all);

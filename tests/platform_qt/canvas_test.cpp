@@ -44,21 +44,6 @@ TEST(Canvas, DrawsPartsOfAPictureWithTheirAlphaStretchedAndWeakened) {
     EXPECT_EQ(surface->image().pixel({13, 0}), green);
 }
 
-TEST(Canvas, LeavesTheKeyColourOutAndSeesLaterPaintingOfASurface) {
-    const auto source = makeSurface({3, 1});
-    source->canvas().fill(Rect::at(0, 0, 3, 1), red);
-    source->canvas().fill(Rect::at(1, 0, 1, 1), blue);
-    const auto target = makeSurface({6, 2});
-    target->canvas().fill(Rect::at(0, 0, 6, 2), white);
-    target->canvas().drawKeyed(source->image(), Rect::at(0, 0, 3, 1), {1, 1}, red);
-    EXPECT_EQ(target->image().pixel({1, 1}), white);
-    EXPECT_EQ(target->image().pixel({2, 1}), blue);
-    source->canvas().fill(Rect::at(0, 0, 1, 1), green);
-    target->canvas().drawKeyed(source->image(), Rect::at(0, 0, 3, 1), {1, 1}, red);
-    EXPECT_EQ(target->image().pixel({1, 1}), green);
-    EXPECT_EQ(target->image().pixel({3, 1}), white);
-}
-
 TEST(Canvas, ALineThatIsTooLongShrinksOrIsCutBetweenCharacters) {
     const QString accented = QStringLiteral("e\u0301").repeated(40);
     const FittedLine cut = fitLine(accented, 100, {.ellipsis = false});

@@ -1,6 +1,5 @@
 #include "platform/edit_field.h"
 
-#include "platform/key_source.h"
 #include "window_fixture.h"
 
 namespace tarnix::testing {
@@ -86,26 +85,6 @@ TEST_F(Edit, AFieldMayBeDeletedByItsOwnEnterAndTheKeysGoToTheWindow) {
     tapKey("a");
     ASSERT_TRUE(logged("key up other"));
     EXPECT_THAT(m_log, ElementsAre("key Enter", "key up Enter", "key other", "key up other"));
-}
-
-TEST_F(Edit, WhileKeysAreInterceptedNoWindowAndNoFieldActsOnThem) {
-    EditField field(m_window, 1, Rect::at(20, 20, 150, 20));
-    field.setFocus();
-    settle();
-    std::vector<std::pair<unsigned, bool>> keys;
-    {
-        const KeyInterception interception(
-            m_window, [&](const WindowKey& key) { keys.emplace_back(key.scanCode, key.down); });
-        tapKey("Escape");
-        tapKey("a");
-        ASSERT_TRUE(runUntil([&] { return keys.size() == 4; }));
-    }
-    EXPECT_THAT(keys, ElementsAre(std::pair(1u, true), std::pair(1u, false), std::pair(30u, true),
-                                  std::pair(30u, false)))
-        << "evdev's KEY_ESC and KEY_A";
-    EXPECT_THAT(m_log, IsEmpty());
-    typeText("b");
-    EXPECT_TRUE(holds(field, "b"));
 }
 
 } // namespace

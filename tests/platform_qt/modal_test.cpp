@@ -98,13 +98,5 @@ TEST_F(ModalRun, EndingAnOuterRunCancelsTheInnerOnesFirst) {
     EXPECT_THAT(m_log, ElementsAre("inner answers 2", "late answers 2", "outer answers 1"));
 }
 
-TEST_F(ModalRun, EndsAtOnceWhenItWasEndedBeforeItBegan) {
-    showMain(m_main);
-    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
-    m_dialog.endModal(5);
-    EXPECT_EQ(m_dialog.runModal(), 5);
-    EXPECT_THAT(m_log, ElementsAre("dialog destroy"));
-}
-
 } // namespace
 } // namespace tarnix::testing

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "window_fixture.h"
 
@@ -49,13 +50,22 @@ class FileDialogs : public WindowTest {
     fs::path m_folder;
 };
 
-TEST_F(FileDialogs, ANewNameGetsTheExtensionAndTheCurrentFolder) {
+TEST_F(FileDialogs, ANewNameGetsTheExtensionAndTheCurrentFolderAndAnOldOneAQuestion) {
     user([] { enterName("fresh"); });
     EXPECT_EQ(save(), (m_folder / "fresh.psf").string());
     user([] { enterName("other.dat"); });
     EXPECT_EQ(save(), (m_folder / "other.dat").string());
     user([] { tapKey("Escape"); });
     EXPECT_EQ(save(), std::nullopt);
+    std::ofstream("there.psf") << "old";
+    user([this] {
+        enterName("there");
+        user([this] {
+            tapKey("Return");
+            user([] { tapKey("Escape"); });
+        });
+    });
+    EXPECT_EQ(save(), std::nullopt) << "nothing is replaced unasked";
 }
 
 TEST_F(FileDialogs, EndingTheWindowsRunCancelsTheDialog) {

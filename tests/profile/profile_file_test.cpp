@@ -41,16 +41,6 @@ std::size_t refusedLine(const std::string& text) {
     return error ? error->line : 0;
 }
 
-TEST(ProfileFile, DefaultRecordIsWrittenByteByByte) {
-    const auto lines = ProfileText().lines;
-    ASSERT_EQ(lines.size(), 29u);
-    EXPECT_EQ(lines[0] + '|' + lines[1] + '|' + lines[9], "[Setting]|ProfileName=Default1|LightArea5Color=4");
-    EXPECT_EQ(lines[10].substr(0, 41), "AllRCKey=1DF081A4E6A5828306F200A1A2ADE4AE");
-    EXPECT_EQ(lines[10].size(), 9u + 320u);
-    EXPECT_EQ(lines[11] + lines[12] + lines[13], "Key0Name=CTRL+1\tKey0Value=06011E\tKey0URL=");
-    EXPECT_EQ(lines[27], "\tKey5Value=060123");
-}
-
 TEST(ProfileFile, EveryTextComesBackAsOneLine) {
     ProfileRecord record = defaultRecord(0), read;
     record.Settings[0] = {"profilename", "a=b"};

@@ -5,7 +5,6 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,8 +15,6 @@
 #include <vector>
 
 #include "platform/linux/file_descriptor.h"
-
-extern char** environ;
 
 namespace tarnix {
 
@@ -33,12 +30,10 @@ class LauncherProcess {
         int in[2];
         int out[2];
         if (::pipe2(in, O_CLOEXEC) != 0 || ::pipe2(out, O_CLOEXEC) != 0) return;
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_adddup2(&actions, in[0], STDIN_FILENO);
-        posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
-        ::posix_spawn(&m_pid, words[0], &actions, nullptr, words.data(), environ);
-        posix_spawn_file_actions_destroy(&actions);
+        m_pid = ::fork();
+        if (m_pid == 0 && ::dup2(in[0], STDIN_FILENO) >= 0 && ::dup2(out[1], STDOUT_FILENO) >= 0)
+            ::execv(words[0], words.data());
+        if (m_pid == 0) ::_exit(127);
         ::close(in[0]);
         ::close(out[1]);
         m_input = FileDescriptor(in[1]);

@@ -2,11 +2,11 @@
 
 #include <array>
 
-#include "platform/shell.h"
 #include "profile/vocabulary.h"
 #include "skin/list_popup.h"
 #include "skin/selection.h"
 #include "skin/sent.h"
+#include "support/prepared_shell.h"
 #include "support/ui_scenario.h"
 #include "ui/dialog_layouts.h"
 #include "ui/key_map_setting_dlg.h"
@@ -49,22 +49,6 @@ class Owner : public CDlgBase {
         if (!found) return "none";
         return found->text + ' ' + hex(found->bytes[0]) + hex(found->bytes[1]) + hex(found->bytes[2]);
     }
-};
-
-/// Answers file dialogs with what was prepared.
-class PreparedShell : public Shell {
-  public:
-    void messageBox(const std::string&) override {}
-    std::optional<std::string> openFile(const FileDialog& dialog, Window&) override {
-        asked.push_back(dialog.fileName + ' ' + dialog.filter);
-        return answer;
-    }
-    std::optional<std::string> saveFile(const FileDialog&, Window&) override { return std::nullopt; }
-    void openLink(const std::string&) override {}
-    void launch(const std::string&) override {}
-
-    std::optional<std::string> answer;
-    std::vector<std::string> asked;
 };
 
 /// Plays on the user-interface thread alone: no keys of the X server, no inner dialogs.
@@ -231,7 +215,7 @@ TEST_F(Dialogs, QuickLaunchSendsNameAndPathOnceAProgramIsChosen) {
         CQuickLaunchDlg dialog(shell, &owner);
         playSteps(dialog, [&] {
             for (const auto& answer : answers) {
-                shell.answer = answer;
+                shell.nextFile = answer;
                 clickControl(dialog, launch::browse);
             }
             EXPECT_EQ(label(dialog, launch::path), shownPath);

@@ -1,5 +1,7 @@
 #include "main_window_bench.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -101,7 +103,11 @@ void MainWindowBench::answerNext(const std::function<void(CDlgBase&)>& answer) {
 }
 
 bool MainWindowBench::clickAndAnswer(unsigned control, unsigned inDialog) {
-    return answered([&] { click(control); }, [=](CDlgBase& dialog) { clickControl(dialog, inDialog); });
+    return answered([&] { click(control); },
+                    [=, this](CDlgBase& dialog) {
+                        EXPECT_EQ(centreOf(dialog.screenRect()), centreOf(window->screenRect()));
+                        clickControl(dialog, inDialog);
+                    });
 }
 
 CListPopup& MainWindowBench::list(PopupPlace place) {

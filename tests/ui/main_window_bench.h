@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +12,7 @@
 #include "support/desktop_driver.h"
 #include "support/fake_clock.h"
 #include "support/memory_files.h"
+#include "support/prepared_shell.h"
 #include "support/ui_scenario.h"
 #include "ui/main_window_layout.h"
 #include "ui/pelmora_dlg.h"
@@ -22,19 +22,6 @@
 namespace tarnix {
 
 using Journal = std::vector<std::string>;
-
-/// File dialogs answer what was prepared.
-class PreparedShell : public Shell {
-  public:
-    std::optional<std::string> nextFile;
-    std::vector<std::string> opened;
-
-    void messageBox(const std::string&) override {}
-    std::optional<std::string> openFile(const FileDialog&, Window&) override { return nextFile; }
-    std::optional<std::string> saveFile(const FileDialog&, Window&) override { return nextFile; }
-    void openLink(const std::string& address) override { opened.push_back(address); }
-    void launch(const std::string&) override {}
-};
 
 class NotingPresence : public DesktopPresence {
   public:

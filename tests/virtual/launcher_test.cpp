@@ -45,15 +45,5 @@ TEST_F(LauncherTest, AnswersCommandsInOrderAndRefusesBadOnes) {
     EXPECT_EQ(launcher.status(), 128 + SIGTERM);
 }
 
-TEST_F(LauncherTest, EndsItsProgramWithItself) {
-    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-        LauncherProcess launcher(
-            {"--", "/bin/sh", "-c", "trap 'exit 3' TERM; echo started; while :; do sleep 0.1; done"});
-        launcher.until("started");
-        launcher.signal(number);
-        EXPECT_EQ(launcher.status(), 3) << number;
-    }
-}
-
 } // namespace
 } // namespace tarnix

@@ -86,6 +86,8 @@ TEST_F(FeatureProtocolTest, ANamedMacroIsLookedUpInTheFirstSetAloneAndByCase) {
     RemoveMacroKey(bench.macros.sets[0], 1);
     EXPECT_FALSE(protocol.WriteGKeyMacro(1, 2));
     EXPECT_THAT(bench.requests(), IsEmpty());
+    EXPECT_TRUE(protocol.UploadGKeyMacro(1, 2));
+    EXPECT_EQ(bench.store.GetGKeySlot(1, 2)->Value, keyAssignment(FunctionType::Macro));
 }
 
 TEST_F(FeatureProtocolTest, PendingWritesGoOutByKindAndProfile) {

@@ -1,6 +1,7 @@
 #include "accessible_changes.h"
 
 #include <map>
+#include <set>
 
 #include "accessible_window.h"
 
@@ -50,6 +51,15 @@ void tellDifference(QAccessibleInterface* about, const AccessibleItem& before, c
     if (now.focused && !before.focused) tell(about, QAccessible::Focus);
 }
 
+/// Tells of the items that the others lack: one for the window and one for each list, which is enough to have
+/// them looked at anew. A hundred keys that go with their page would keep a screen reader from speaking.
+void tellMissing(AccessibleWindow& window, const Items& items, const Items& others, QAccessible::Event what) {
+    std::set<std::optional<unsigned>> told;
+    for (const auto& [key, item] : items)
+        if (!others.contains(key) && told.insert(key.row ? std::optional(key.item) : std::nullopt).second)
+            tell(window.itemOf(key), what);
+}
+
 } // namespace
 
 /// A list that has opened is where the user is at work.
@@ -74,15 +84,11 @@ void tellDifferences(AccessibleWindow& window, const AccessibleFace& before, con
     }
     const Items then = itemsOf(before);
     const Items present = itemsOf(now);
-    for (const auto& [key, item] : then)
-        if (!present.contains(key)) tell(window.itemOf(key), QAccessible::ObjectDestroyed);
-    for (const auto& [key, item] : present) {
-        const auto old = then.find(key);
-        if (old == then.end())
-            tell(window.itemOf(key), QAccessible::ObjectCreated);
-        else
+    for (const auto& [key, item] : present)
+        if (const auto old = then.find(key); old != then.end())
             tellDifference(window.itemOf(key), *old->second, *item);
-    }
+    tellMissing(window, then, present, QAccessible::ObjectDestroyed);
+    tellMissing(window, present, then, QAccessible::ObjectCreated);
 }
 
 } // namespace tarnix

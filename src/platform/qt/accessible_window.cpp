@@ -268,6 +268,7 @@ QAccessible::State AccessibleWindow::state() const {
     QAccessible::State state = QAccessibleWidget::state();
     const Window* window = m_widget.window();
     state.invisible = state.invisible || m_widget.isMinimized();
+    if (role() == QAccessible::PopupMenu) state.focusable = state.focused = true;
     state.modal = window && role() != QAccessible::Window && runsModally(*window);
     return state;
 }

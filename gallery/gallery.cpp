@@ -388,10 +388,11 @@ TEST_F(Gallery, Tray) {
             presence.AddTrayIcon(*bench.window);
             EXPECT_TRUE(testing::runUntil([&] { return presence.isTrayShown(); }));
             testing::runUntil([] { return false; }, Milliseconds(500));
-            testing::movePointer({984, 19});
+            shot("tray-" + color);
+            testing::movePointer({992, 9});
             testing::pressButton(3);
             testing::releaseButton(3);
-            shot("tray-" + color);
+            shot("tray-menu-" + color);
             testing::tapKey("Escape");
             run("kill $(cat " + pid + ")");
             testing::movePointer({0, 0});

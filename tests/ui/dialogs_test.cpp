@@ -219,7 +219,7 @@ TEST_F(Dialogs, QuickLaunchSendsNameAndPathOnceAProgramIsChosen) {
     launchWith({program}, program, cancelButton);
     launchWith({program, std::nullopt}, program, okButton);
     EXPECT_THAT(owner.received, ElementsAre("/opt/my game/run.exe run.exe 070000"));
-    EXPECT_EQ(shell.asked.front(), "ab.exe exe file(*.exe)|*.exe");
+    EXPECT_EQ(shell.asked.front(), "ab.exe exe file(*.exe)|*.exe exe");
 }
 
 } // namespace

@@ -18,8 +18,10 @@ TEST(LightingPage, AValueWithoutANameLeavesItsFieldAsItIs) {
         bench.store.setSetting(1, settingLightMode, "abc");
         bench.window->ShowLighting(1);
         EXPECT_EQ(field.valueText(), "Light Off");
-        for (const LParam code : {NOTIFY_ENTER, NOTIFY_DOWN, NOTIFY_CLICK, NOTIFY_LEAVE})
+        for (const LParam code : {NOTIFY_ENTER, NOTIFY_DOWN, NOTIFY_LEAVE})
             bench.window->send(id::logoLink, 0, code);
+        EXPECT_EQ(bench.shell.opened, Journal{});
+        bench.window->send(id::logoLink, 0, NOTIFY_CLICK);
         EXPECT_EQ(bench.shell.opened, Journal{"https://www.tarnix.example/"});
     });
 }

@@ -94,6 +94,7 @@ TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
         bench.click(save);
         bench.click(import);
         EXPECT_THAT(bench.changes(), ElementsAre()) << "cancelled";
+        EXPECT_THAT(bench.shell.asked, ::testing::Each(".mkf mkf file(*.mkf)|*.mkf mkf"));
         bench.shell.nextFile = "/home/x.mkf";
         EXPECT_EQ(noticeAt(import), "The Import file is error!");
         set().keys[1].loopCount = 9;

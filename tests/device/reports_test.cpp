@@ -117,6 +117,7 @@ TEST(MacroReport, DelaysGoOutInTheStepOfTheirRangeAndTheRestWithTheNextKey) {
     EXPECT_EQ(sent({delay(100), delay(200), release, release}), (Bytes{4, 0x80 | 25, 4, 0x80}));
     EXPECT_EQ(sent({delay(2000), delay(80), press}), (Bytes{1, 31, 4, 10}));
     EXPECT_EQ(sent({press, delay(100)}), (Bytes{4, 0})) << "a carry with no key to go with";
+    EXPECT_EQ(sent(Actions(200, release)).size(), 192u) << "as many as the report holds";
     EXPECT_EQ(sent({MacroAction::key(0x5B, false), MacroAction::key(0x12, true), {{0x41, 0x85, 1, 2}}}),
               (Bytes{0xE3, 0, 0, 0x80, 4, 0x80}));
 }

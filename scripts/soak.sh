@@ -104,12 +104,9 @@ sample() {
     echo "after ${samples[-1]} (s, kB, handles, threads)"
 }
 
-# highest FIELD FROM TO, lowest FIELD FROM TO: of the samples between these seconds.
+# highest FIELD FROM TO: of the samples between these seconds.
 highest() {
     printf '%s\n' "${samples[@]}" | awk -v f="$1" -v a="$2" -v b="$3" '$1 >= a && $1 <= b && $f > m {m = $f} END {print m + 0}'
-}
-lowest() {
-    printf '%s\n' "${samples[@]}" | awk -v f="$1" -v a="$2" -v b="$3" '$1 >= a && $1 <= b && (m == "" || $f < m) {m = $f} END {print m + 0}'
 }
 
 start_program "$desktop/program" 1
@@ -132,9 +129,10 @@ ended "$program_pid" || true
 
 echo "counted: $inputs clicks and keys, $events event reports, $disturbances faults and unpluggings in $seconds s"
 if [ "$seconds" -ge 180 ]; then
-    memory_before=$(highest 2 60 120) memory_after=$(lowest 2 $((seconds - 60)) 999999)
-    handles_before=$(highest 3 60 120) handles_after=$(lowest 3 $((seconds - 60)) 999999)
-    threads_before=$(highest 4 60 120) threads_after=$(lowest 4 $((seconds - 60)) 999999)
+    now=$((SECONDS - start))
+    memory_before=$(highest 2 60 120) memory_after=$(highest 2 $((now - 60)) $now)
+    handles_before=$(highest 3 60 120) handles_after=$(highest 3 $((now - 60)) $now)
+    threads_before=$(highest 4 60 120) threads_after=$(highest 4 $((now - 60)) $now)
     echo "counted: memory $memory_before to $memory_after kB, handles $handles_before to $handles_after," \
         "threads $threads_before to $threads_after"
     # Recorded macros stay in the library: a few hundred of them take that much.

@@ -40,6 +40,7 @@ eventually reports_are "event 01" "set 04 select profile 1 G2" "get 08" "set 08 
 end_program
 
 # At a request of the first reading, of which a keyboard without macros gets 13, and then of an apply.
+unplugs=0
 for request in ${TARNIX_UNPLUG_AT:-0 1 6}; do
     printf '%s\n' "delay 20 60" "vanish $request" > "$desktop/faults"
     launch_program "$program" 1 --commands "$desktop/faults"
@@ -51,7 +52,9 @@ for request in ${TARNIX_UNPLUG_AT:-0 1 6}; do
     apply
     close_notice
     end_program
+    unplugs=$((unplugs + 2))
 done
+echo "counted: $unplugs unpluggings"
 
 # A keyboard that answers nothing is there all the same.
 echo "fail all" > "$desktop/silent"

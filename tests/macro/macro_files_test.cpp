@@ -135,12 +135,6 @@ TEST(MacroFiles, RefusedLibraryIsSetAsideAndTheDefaultOneWritten) {
     EXPECT_FALSE(LoadMacroLibrary(library, files, folder));
     EXPECT_EQ(files.contents[path], defaultText);
     EXPECT_EQ(files.contents[path + ".bak"], shortText);
-
-    files.contents[path] = "rubbish";
-    files.failSetAside = true;
-    EXPECT_FALSE(LoadMacroLibrary(library, files, folder));
-    EXPECT_EQ(files.contents[path], "rubbish");
-    EXPECT_EQ(formatMacroLibrary(library, LibraryForm::Long), defaultText);
 }
 
 TEST(MacroFiles, ImportKeepsWhatStoodBeforeTheRefusedLine) {

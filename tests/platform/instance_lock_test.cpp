@@ -3,7 +3,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <barrier>
+#include <cstdio>
 #include <filesystem>
+#include <memory>
+#include <thread>
+#include <vector>
 
 #include "platform/shell.h"
 #include "support/temp_folder.h"
@@ -38,6 +45,24 @@ class InstanceLockTest : public testing::Test {
 
     TempFolder folder;
 };
+
+TEST_F(InstanceLockTest, OneOfThoseThatStartAtOnceGetsIt) {
+    constexpr int rounds = 200;
+    for (int round = 0; round < rounds; ++round) {
+        std::array<std::unique_ptr<InstanceLock>, 4> locks;
+        std::barrier start(static_cast<std::ptrdiff_t>(locks.size()));
+        {
+            std::vector<std::jthread> starts;
+            for (auto& lock : locks)
+                starts.emplace_back([&] {
+                    start.arrive_and_wait();
+                    lock = acquireInstanceLock("Some Program");
+                });
+        }
+        ASSERT_EQ(std::count(locks.begin(), locks.end(), nullptr), 3);
+    }
+    std::printf("counted: %d races of four starts\n", rounds);
+}
 
 TEST_F(InstanceLockTest, TakesAFolderOfTheUsersOwnWhereTheSessionsIsOpenToOthers) {
     fs::permissions(folder / "run", fs::perms::all);

@@ -62,25 +62,6 @@ TEST(ConfigurationFile, RefusedFileIsSetAsideBeforeTheDefaultsAreWritten) {
     EXPECT_EQ(files.contents,
               (std::map<std::string, std::string>{{path, defaults}, {path + ".bak", broken}}));
     EXPECT_THAT(files.log, testing::ElementsAre("read " + path, "set aside " + path, "replace " + path));
-
-    files.failSetAside = true;
-    files.contents[path] = broken;
-    EXPECT_FALSE(LoadConfig(store, files, folder));
-    EXPECT_EQ(files.contents[path], broken) << "nothing is lost without a copy";
-    EXPECT_EQ(formatConfiguration(store.ConfigTable), defaults);
-}
-
-TEST(ConfigurationFile, DisplayedProfileBecomesCurrentEvenWhenTheDiskIsFull) {
-    MemoryFiles files;
-    ProfileStore store;
-    files.failWriteNumber = 2;
-    for (const int profile : {2, 1}) {
-        DisplayedProfile = profile;
-        EXPECT_EQ(SaveCurrentProfile(store, files, folder), profile == 2);
-        EXPECT_EQ(store.currentProfile(), profile);
-        EXPECT_THAT(files.contents[path], testing::HasSubstr("=2\n"));
-    }
-    DisplayedProfile = 0;
 }
 
 } // namespace

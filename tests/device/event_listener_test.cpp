@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <cstdio>
 #include <thread>
 
 #include "device_bench.h"
@@ -75,6 +76,17 @@ TEST_F(EventListenerTest, ReportsAreReadIntoTheirLengthAndSenselessLengthsAreSur
         listener->stop();
     }
     EXPECT_THAT(heard[0], ElementsAre(0, 3, 1, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0xFF)) << "left out, left alone";
+}
+
+TEST_F(EventListenerTest, AStopAtAnyMomentEndsTheThread) {
+    constexpr int stops = 500;
+    for (int n = 0; n < stops; ++n) {
+        listener->start(eventInterface());
+        emit(n % 3);
+        listener->stop();
+        ASSERT_EQ(hid.openDevices(), 0);
+    }
+    std::printf("counted: %d stops of a waiting listener\n", stops);
 }
 
 TEST_F(EventListenerTest, TheOwnersEndDropsWhatIsPosted) {

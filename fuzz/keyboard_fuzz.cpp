@@ -5,32 +5,17 @@
 #include <vector>
 
 #include "device/device_events.h"
-#include "device/device_link.h"
 #include "input.h"
 #include "macro/macro_files.h"
-#include "support/fake_clock.h"
-#include "support/memory_files.h"
-#include "virtual/virtual_hid.h"
+#include "support/device_bench.h"
 
 using namespace tarnix;
 
 namespace {
 
-struct ImmediateLoop : MainLoop {
-    std::unique_ptr<Subscription> watch(int, std::function<void()>) override { return nullptr; }
-    std::unique_ptr<Subscription> after(Milliseconds, std::function<void()>) override { return nullptr; }
-    void post(std::function<void()> work) override { work(); }
-};
-
-struct SilentOwner : DeviceObserver {
-    void ShowCurrentProfile() override {}
-    void onDeviceEvent(DeviceEvent) override {}
-    void launchGKeyUrl(const std::string&) override {}
-    void onMacrosChanged() override {}
-    void showDisconnectedNotice() override {}
-};
-
-void step(Input& input, VirtualKeyboard& keyboard, VirtualHid& hid, DeviceLink& link, DeviceEvents& events) {
+void step(Input& input, DeviceBench& bench, DeviceEvents& events) {
+    VirtualKeyboard& keyboard = bench.keyboard;
+    VirtualHid& hid = bench.hid;
     const std::uint8_t choice = input.take() % 8;
     if (choice == 0) {
         keyboard.activeProfile = input.take();
@@ -51,8 +36,8 @@ void step(Input& input, VirtualKeyboard& keyboard, VirtualHid& hid, DeviceLink& 
         hid.tell(input.flag() ? HidChange::Arrival : HidChange::Removal);
     } else if (choice == 5) {
         for (int row = input.take() % 16; row >= 0; --row)
-            link.pending().mark(row, input.take());
-        link.FlushPendingWrites();
+            bench.link->pending().mark(row, input.take());
+        bench.link->FlushPendingWrites();
     } else {
         const std::uint8_t report[]{0, input.take(), input.take()};
         events.dispatch(std::span(report).first(input.take() % 16 == 0 ? 2 : 3));
@@ -62,27 +47,17 @@ void step(Input& input, VirtualKeyboard& keyboard, VirtualHid& hid, DeviceLink& 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FakeClock clock;
-    VirtualKeyboard keyboard{clock};
-    VirtualHid hid{keyboard};
-    hid.missing = {VirtualKeyboard::eventInterface}; // reports are dispatched here, not by a thread
-    ImmediateLoop loop;
-    MemoryFiles files;
-    ProfileStore store;
-    MacroLibrary macros;
-    const std::string folder = "/";
-    SilentOwner owner;
-    DeviceLink link{{hid, clock, loop, {store, macros, files, folder}, owner}};
-    DeviceEvents events{link.protocol(), {store, macros, files, folder}, owner};
-
-    resetMacroLibrary(macros);
-    for (int n = 0; n < profileCount; ++n)
-        store.ResetProfile(n);
-    link.InitDeviceLink();
-    for (Input input(data, size); !input.empty();)
-        step(input, keyboard, hid, link, events);
-    link.close();
-    const bool saved = !files.contents.empty();
-    if (LoadMacroLibrary(macros, files, folder) != saved) std::abort();
+    DeviceBench bench;
+    bench.hid.missing = {VirtualKeyboard::eventInterface}; // reports are dispatched here, not by a thread
+    DeviceEvents events{
+        bench.protocol(), {bench.store, bench.macros, bench.files, bench.folder}, bench.owner};
+    bench.link->InitDeviceLink();
+    for (Input input(data, size); !input.empty();) {
+        step(input, bench, events);
+        bench.loop.runPosted();
+    }
+    bench.link->close();
+    const bool saved = !bench.files.contents.empty();
+    if (LoadMacroLibrary(bench.macros, bench.files, bench.folder) != saved) std::abort();
     return 0;
 }

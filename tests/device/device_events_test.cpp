@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "device_bench.h"
+#include "support/device_bench.h"
 
 namespace tarnix {
 namespace {
@@ -16,21 +16,12 @@ class DeviceEventsTest : public testing::Test {
 };
 
 TEST_F(DeviceEventsTest, SwitchesAndLocksAreToldAndNothingIsSaved) {
-    const std::tuple<std::uint8_t, std::uint8_t, Words> cases[] = {
-        {5, 2, {"show 1", "event 2"}},
-        {5, 4, {"show 3"}},
-        {5, 0, {"show -1"}},
-        {5, 255, {"show 254"}},
-        {3, 0, {"event 4"}},
-        {3, 255, {"event 5"}},
-        {9, 0, {"event 6"}},
-        {9, 2, {"event 7"}},
-        {0, 1, {}},
-        {8, 1, {}},
-        {0x0B, 1, {}},
-        {0xFF, 1, {}},
-    };
-    for (const auto& [code, value, told] : cases)
+    using Case = std::tuple<std::uint8_t, std::uint8_t, Words>;
+    for (const auto& [code, value, told] :
+         {Case{5, 2, {"show 1", "event 2"}}, Case{5, 4, {"show 3"}}, Case{5, 0, {"show -1"}},
+          Case{5, 255, {"show 254"}}, Case{3, 0, {"event 4"}}, Case{3, 255, {"event 5"}},
+          Case{9, 0, {"event 6"}}, Case{9, 2, {"event 7"}}, Case{0, 1, {}}, Case{8, 1, {}}, Case{0x0B, 1, {}},
+          Case{0xFF, 1, {}}})
         EXPECT_EQ(bench.event(code, value), told) << int{code} << ' ' << int{value};
     EXPECT_THAT(bench.files.log, IsEmpty());
     EXPECT_THAT(bench.requests(), IsEmpty());

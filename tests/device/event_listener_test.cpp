@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <thread>
 
-#include "device_bench.h"
+#include "support/device_bench.h"
 
 namespace tarnix {
 namespace {
@@ -13,24 +13,14 @@ using Bytes = std::vector<std::uint8_t>;
 
 class EventListenerTest : public testing::Test {
   protected:
-    /// Waits for something that another thread brings about.
-    template <class Condition>
-    static bool comesTrue(Condition condition) {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-        while (!condition() && std::chrono::steady_clock::now() < deadline)
-            std::this_thread::yield();
-        return condition();
-    }
-
     HidInterface eventInterface(std::size_t length = 8) const {
         return {VirtualHid::pathOf(VirtualKeyboard::eventInterface), 0x04F3, 0x1406, 0x000A, length};
     }
 
     /// Sends reports numbered from 0 in their code and value.
     void emit(int count) {
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < count; ++i)
             keyboard.emit(static_cast<std::uint8_t>(i >> 8), static_cast<std::uint8_t>(i));
-        }
     }
 
     FakeClock clock;
@@ -51,7 +41,7 @@ TEST_F(EventListenerTest, AFloodIsReadNoFasterThanItIsHeardAndArrivesWholeAndInO
     listener->start(eventInterface());
     EXPECT_EQ(hid.openDevices(), 1);
     emit(6000);
-    ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 4096; }));
+    ASSERT_TRUE(loop.holds(4096));
     ASSERT_TRUE(loop.runOne());
     EXPECT_EQ(heard.size(), 64u) << "and input and painting come in between";
     ASSERT_TRUE(loop.runUntil([this] { return heard.size() == 6000; }));
@@ -60,7 +50,7 @@ TEST_F(EventListenerTest, AFloodIsReadNoFasterThanItIsHeardAndArrivesWholeAndInO
 
     loop.runPosted(); // several are heard in one turn, whose own turns find nothing
     emit(6000);
-    ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 4096; }));
+    ASSERT_TRUE(loop.holds(4096));
     listener->stop();
     loop.runPosted();
     EXPECT_EQ(heard.size(), 6000u + 4096u) << "what was read before the stop is still heard";
@@ -92,7 +82,7 @@ TEST_F(EventListenerTest, AStopAtAnyMomentEndsTheThread) {
 TEST_F(EventListenerTest, TheOwnersEndDropsWhatIsPosted) {
     listener->start(eventInterface());
     emit(3);
-    ASSERT_TRUE(comesTrue([this] { return loop.waiting() == 3; }));
+    ASSERT_TRUE(loop.holds(3));
     listener.reset();
     loop.runPosted();
     EXPECT_THAT(heard, testing::IsEmpty());

@@ -6,9 +6,9 @@
 #include <cstdio>
 
 #include "device/feature_reports.h"
-#include "device_bench.h"
 #include "macro/macro_files.h"
 #include "profile/profile_file.h"
+#include "support/device_bench.h"
 
 namespace tarnix {
 namespace {

@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "device_bench.h"
+#include "support/device_bench.h"
 
 namespace tarnix {
 namespace {

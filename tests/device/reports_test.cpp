@@ -100,19 +100,11 @@ TEST(MacroReport, HeadCarriesPlaceNameLoopAndTheCountAsKept) {
 }
 
 TEST(MacroReport, DelaysGoOutInTheStepOfTheirRangeAndTheRestWithTheNextKey) {
-    const std::pair<std::uint32_t, Bytes> cases[] = {
-        {7, {4, 0}},
-        {1015, {4, 126}},
-        {1016, {1, 15, 4, 56}},
-        {2000, {1, 31, 4, 0x10}},
-        {16319, {1, 254, 4, 63}},
-        {16320, {2, 127, 4, 64}},
-        {32639, {2, 254, 4, 127}},
-        {32640, {3, 127, 4, 0}},
-        {65535, {3, 255, 4, 127}},
-        {0x010008, {4, 1}}, // the highest of the 24 bits do not travel
-    };
-    for (const auto& [milliseconds, steps] : cases)
+    using Case = std::pair<std::uint32_t, Bytes>; // the highest of the 24 bits do not travel
+    for (const auto& [milliseconds, steps] :
+         {Case{7, {4, 0}}, Case{1015, {4, 126}}, Case{1016, {1, 15, 4, 56}}, Case{2000, {1, 31, 4, 0x10}},
+          Case{16319, {1, 254, 4, 63}}, Case{16320, {2, 127, 4, 64}}, Case{32639, {2, 254, 4, 127}},
+          Case{32640, {3, 127, 4, 0}}, Case{65535, {3, 255, 4, 127}}, Case{0x010008, {4, 1}}})
         EXPECT_EQ(sent({delay(milliseconds), press}), steps) << milliseconds;
     EXPECT_EQ(sent({delay(100), delay(200), release, release}), (Bytes{4, 0x80 | 25, 4, 0x80}));
     EXPECT_EQ(sent({delay(2000), delay(80), press}), (Bytes{1, 31, 4, 10}));

@@ -33,29 +33,30 @@ class QueueLoop : public MainLoop {
         m_work.push_back(std::move(work));
         m_posted.notify_all();
     }
-    std::size_t waiting() {
-        const std::lock_guard lock(m_mutex);
-        return m_work.size();
+    /// Whether that much posted work comes to wait.
+    bool holds(std::size_t count) {
+        std::unique_lock lock(m_mutex);
+        return m_posted.wait_for(lock, std::chrono::seconds(20), [&] { return m_work.size() == count; });
     }
-    /// Runs work as it comes until the condition holds; false when that takes too long.
+    /// Runs the next piece of work; false when it takes too long to come.
+    bool runOne(Milliseconds patience = std::chrono::seconds(20)) {
+        std::unique_lock lock(m_mutex);
+        if (!m_posted.wait_for(lock, patience, [this] { return !m_work.empty(); })) return false;
+        const auto work = std::move(m_work.front());
+        m_work.pop_front();
+        lock.unlock();
+        work();
+        return true;
+    }
+    /// Runs work as it comes until the condition holds; false when none comes any more.
     bool runUntil(const std::function<bool()>& condition) {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-        while (!condition()) {
-            std::unique_lock lock(m_mutex);
-            if (!m_posted.wait_until(lock, deadline, [this] { return !m_work.empty(); })) return false;
-            const auto work = std::move(m_work.front());
-            m_work.pop_front();
-            lock.unlock();
-            work();
-        }
+        while (!condition())
+            if (!runOne()) return false;
         return true;
     }
     void runPosted() {
-        runUntil([this] { return waiting() == 0; });
-    }
-    /// Runs the next piece of work, when it has come.
-    bool runOne() {
-        return runUntil([turn = 0]() mutable { return turn++ > 0; });
+        while (runOne(Milliseconds(0))) {
+        }
     }
 
   private:
@@ -144,10 +145,9 @@ class DeviceBench {
     Words settle() {
         keyboard.lockAllKeys(false);
         keyboard.lockAllKeys(true);
-        const std::size_t before = owner.told.size();
+        const Words& all = owner.told;
         const auto marked = [&] {
-            const std::size_t now = owner.told.size();
-            return now >= before + 2 && owner.told[now - 2] == "event 6" && owner.told[now - 1] == "event 7";
+            return all.size() > 1 && all.end()[-2] == "event 6" && all.back() == "event 7";
         };
         if (loop.runUntil(marked)) owner.told.resize(owner.told.size() - 2);
         return told();
@@ -180,12 +180,6 @@ class DeviceBench {
         for (const auto pause : std::exchange(clock.pauses, {}))
             all.push_back(static_cast<int>(pause.count()));
         return all;
-    }
-    int totalPause() {
-        int total = 0;
-        for (const int pause : pauses())
-            total += pause;
-        return total;
     }
 };
 

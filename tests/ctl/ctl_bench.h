@@ -41,10 +41,12 @@ class CtlBench : public testing::Test {
         std::ofstream(folder / name, std::ios::binary) << text;
     }
 
+    std::string inFolder(const std::string& line) const {
+        return "cd " + folder.path().string() + " && { " + line + "; }";
+    }
     /// A shell line that runs in the folder; "$CTL" is the program.
     Outcome shell(const std::string& line) const {
-        const std::string whole = "cd " + folder.path().string() + " && { " + line + "; } > .out 2> .error";
-        const int status = std::system(whole.c_str());
+        const int status = std::system((inFolder(line) + " > .out 2> .error").c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, fileText(".out"), fileText(".error")};
     }
     Outcome ctl(const std::string& arguments) const { return shell("$CTL " + arguments); }

@@ -8,7 +8,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <csignal>
 #include <string>
 #include <utility>
@@ -52,21 +51,16 @@ class LauncherProcess {
 
     /// What came since the last call, up to and with the text; the whole rest when the pipe ends first.
     std::string until(const std::string& text) {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
         std::size_t found = 0;
-        while ((found = m_pending.find(text)) == std::string::npos &&
-               std::chrono::steady_clock::now() < deadline) {
-            pollfd wait{m_output.get(), POLLIN, 0};
-            char bytes[4096];
-            if (::poll(&wait, 1, 100) <= 0) continue;
+        pollfd wait{m_output.get(), POLLIN, 0};
+        char bytes[4096];
+        while ((found = m_pending.find(text)) == std::string::npos && ::poll(&wait, 1, 20000) > 0) {
             const ssize_t length = ::read(m_output.get(), bytes, sizeof bytes);
             if (length <= 0) return std::exchange(m_pending, {});
             m_pending.append(bytes, static_cast<std::size_t>(length));
         }
-        const std::size_t length = found == std::string::npos ? m_pending.size() : found + text.size();
-        const std::string result = m_pending.substr(0, length);
-        m_pending.erase(0, length);
-        return result;
+        found = found == std::string::npos ? m_pending.size() : found + text.size();
+        return std::exchange(m_pending, m_pending.substr(found)).substr(0, found);
     }
     std::string rest() { return until(std::string(1, '\0')); }
 

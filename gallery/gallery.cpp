@@ -82,6 +82,16 @@ class Gallery : public ::testing::Test {
         testing::movePointer({0, 0});
     }
 
+    /// Runs the window, and the scenario in it once the window is active.
+    void play(const std::function<void()>& scenario) {
+        loop().post([&] {
+            bench.awaitKeyboard();
+            scenario();
+            bench.window->endModal(IDCANCEL);
+        });
+        bench.window->DoModal();
+    }
+
     /// The hidden pages are reached through their hidden tabs.
     void showPage(unsigned tabId) {
         CControlBase* tab = bench.window->GetControl(tabId);
@@ -160,7 +170,7 @@ void setLabel(CDlgBase& dialog, unsigned id, const std::string& text) {
 }
 
 TEST_F(Gallery, KeyPage) {
-    bench.run([&] {
+    play([&] {
         shot("main-key-page");
         photographHover("main-hover-letter", id::firstKeyCap + 60);
         photographHover("main-hover-modifier", id::firstKeyCap + 74);
@@ -184,7 +194,7 @@ TEST_F(Gallery, KeyPage) {
 }
 
 TEST_F(Gallery, LightingPage) {
-    bench.run([&] {
+    play([&] {
         bench.click(id::lightingPageTab);
         bench.window->OnMouseMove(0, {1, 1});
         shot("lighting");
@@ -196,7 +206,7 @@ TEST_F(Gallery, LightingPage) {
 }
 
 TEST_F(Gallery, GKeyPage) {
-    bench.run([&] {
+    play([&] {
         addMacros();
         bench.store.StoreGKey(id::gKeyField1, "Fire", {1, 0, 0}, "");
         bench.store.StoreGKey(id::gKeyField3, "\xC4\xAC\xC8\xCF\xB9\xA6\xC4\xDC", {6, 1, 0}, "");
@@ -233,7 +243,7 @@ TEST_F(Gallery, GKeyPage) {
 }
 
 TEST_F(Gallery, MacroPage) {
-    bench.run([&] {
+    play([&] {
         addMacros();
         showPage(id::macroPageTab);
         bench.window->send(id::macroPageTab, 0, NOTIFY_CLICK);
@@ -258,7 +268,7 @@ TEST_F(Gallery, MacroPage) {
 }
 
 TEST_F(Gallery, KeyMap) {
-    bench.run([&] {
+    play([&] {
         {
             Opened<CKeyMapSettingDlg> dialog(KeyToMap{2201, "F1", 0xC0, 0xC0}, bench.window.get());
             shot("key-map");
@@ -276,7 +286,7 @@ TEST_F(Gallery, KeyMap) {
 }
 
 TEST_F(Gallery, Shortcut) {
-    bench.run([&] {
+    play([&] {
         Opened<CShortcutDlg> dialog(bench.window.get());
         shot("shortcut");
         clickControl(*dialog, dialog::shortcut::ctrl);
@@ -290,7 +300,7 @@ TEST_F(Gallery, Shortcut) {
 }
 
 TEST_F(Gallery, QuickLaunch) {
-    bench.run([&] {
+    play([&] {
         Opened<CQuickLaunchDlg> dialog(bench.shell, bench.window.get());
         shot("quick-launch");
         setLabel(*dialog, dialog::launch::path, "/usr/share/games/a-game/bin/a-game-with-a-long-name");
@@ -300,7 +310,7 @@ TEST_F(Gallery, QuickLaunch) {
 }
 
 TEST_F(Gallery, NoticesAndConfirmations) {
-    bench.run([&] {
+    play([&] {
         for (const auto& question : {dialog::reset::profileReset, dialog::reset::factoryReset}) {
             Opened<CFirmwareResetDlg> dialog(question, bench.window.get());
             shot("reset-" + std::to_string(question.background));
@@ -323,7 +333,7 @@ TEST_F(Gallery, NoticesAndConfirmations) {
 }
 
 TEST_F(Gallery, EditProfile) {
-    bench.run([&] {
+    play([&] {
         Opened<CEditProfileDlg> dialog(bench.shell, bench.window.get());
         shot("edit-profile");
         setLabel(*dialog, dialog::profile::path1, "/usr/bin/gimp");
@@ -335,7 +345,7 @@ TEST_F(Gallery, EditProfile) {
 }
 
 TEST_F(Gallery, MacroManager) {
-    bench.run([&] {
+    play([&] {
         addMacros();
         AddMacroSet(bench.macros, "Second set");
         SaveManagerLibrary(bench.macros, bench.files, "/kbd/");
@@ -356,7 +366,7 @@ TEST_F(Gallery, MacroManager) {
 }
 
 TEST_F(Gallery, ManagerCompanions) {
-    bench.run([&] {
+    play([&] {
         Opened<CMacroManagerDlg> dialog(bench.window.get(), bench.files, "/kbd/", 0);
         shot("manager-no-set");
         {
@@ -377,7 +387,7 @@ TEST_F(Gallery, ManagerCompanions) {
 }
 
 TEST_F(Gallery, Tray) {
-    bench.run([&] {
+    play([&] {
         for (const std::string color : {"0x202428", "0xf0f0f0"}) {
             const std::string pid = "\"$XDG_RUNTIME_DIR/trayer\"";
             run("trayer --edge top --align right --expand false --widthtype request --height 24 "
@@ -408,7 +418,7 @@ TEST_F(Gallery, Frames) {
 /// Run with a compositor and without.
 TEST_F(Gallery, OnScreenDisplay) {
     const char* suffix = std::getenv("GALLERY_COMPOSITED");
-    bench.run([&] {
+    play([&] {
         for (const int gray : {250, 128, 20}) {
             Backdrop desktop(rgb(gray, gray, gray));
             OnScreenDisplay display(*bench.window);

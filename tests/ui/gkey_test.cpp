@@ -10,145 +10,127 @@ namespace {
 using tarnix::testing::settle;
 
 /// Rows of the function menu.
-constexpr std::size_t macroRow = 0;
-constexpr std::size_t multimediaRow = 1;
-constexpr std::size_t webRow = 2;
-constexpr std::size_t mouseRow = 3;
-constexpr std::size_t defaultRow = 4;
-constexpr std::size_t noFunctionRow = 7;
+enum : std::size_t { macroRow, multimediaRow, webRow, mouseRow, defaultRow, noFunctionRow = 7 };
 
-class GKeyPage : public ::testing::Test {
-  public:
-    /// Runs a scenario on the G-key page.
-    void run(const std::function<void()>& scenario) {
-        bench.run([&] {
-            AddMacroKey(bench.macros.sets[0], "Fire");
-            AddMacroKey(bench.macros.sets[0], "Tap");
-            g_nMainPage = 2;
-            bench.window->send(id::gKeyPageTab, 0, NOTIFY_CLICK);
-            scenario();
-        });
+class GKeyPage : public MainWindowTest {
+  protected:
+    void SetUp() override {
+        MainWindowTest::SetUp();
+        AddMacroKey(macros.sets[0], "Fire");
+        AddMacroKey(macros.sets[0], "Tap");
+        g_nMainPage = 2;
+        window->send(id::gKeyPageTab, 0, NOTIFY_CLICK);
     }
 
-    void openMenu(unsigned field) {
-        bench.click(field);
+    void openMenu(unsigned id) {
+        click(id);
         settle();
-        ASSERT_TRUE(bench.isOpen(PopupPlace::Category));
-        EXPECT_TRUE(bench.field(field).m_bOpen);
+        ASSERT_TRUE(isOpen(PopupPlace::Category));
+        EXPECT_TRUE(field(id).m_bOpen);
     }
-    void expectClosed(unsigned field) {
-        EXPECT_FALSE(bench.window->popups().any());
-        EXPECT_FALSE(bench.field(field).m_bOpen);
+    void expectClosed(unsigned id) {
+        EXPECT_FALSE(window->popups().any());
+        EXPECT_FALSE(field(id).m_bOpen);
     }
-    bool marked(int row) { return bench.window->link().pending().isMarked(row, 0); }
-    const GKeySlot& slot(int n) { return *bench.store.GetGKeySlot(0, n); }
-
-    MainWindowBench bench;
+    bool marked(int row) { return window->link().pending().isMarked(row, 0); }
+    const GKeySlot& slot(int n) { return *store.GetGKeySlot(0, n); }
 };
 
 TEST_F(GKeyPage, AFunctionFromAListBesideTheMenuIsStoredUnderItsName) {
-    run([&] {
-        const struct {
-            unsigned field;
-            int slot;
-            std::size_t menuRow;
-            PopupPlace place;
-            std::size_t row;
-            const char* name;
-            KeyAssignment value;
-        } choices[] = {
-            {id::gKeyField1, 0, multimediaRow, PopupPlace::Multimedia, 7, "Stop", {2, 0xA7, 0}},
-            {id::gKeyField2, 1, webRow, PopupPlace::Web, 0, "WWW Search", {2, 0xA8, 0}},
-            {id::gKeyField3, 2, mouseRow, PopupPlace::Mouse, 6, "Fire", {5, 0, 0}},
-            {id::gKeyField4, 3, mouseRow, PopupPlace::Mouse, 1, "Menu", {3, 2, 0}},
-            {id::gKeyField5, 4, macroRow, PopupPlace::MacroLibrary, 1, "Tap", {1, 0, 0}},
-        };
-        for (const auto& choice : choices) {
-            bench.store.SetGKeyUrl(0, choice.slot, "/old");
-            bench.window->link().pending().clearAll();
-            openMenu(choice.field);
-            bench.point(PopupPlace::Category, choice.menuRow);
-            ASSERT_TRUE(bench.isOpen(choice.place)) << choice.name;
-            EXPECT_TRUE(bench.isOpen(PopupPlace::Category));
-            bench.choose(choice.place, choice.row);
-            expectClosed(choice.field);
-            EXPECT_EQ(bench.field(choice.field).valueText(), choice.name);
-            EXPECT_EQ(slot(choice.slot), (GKeySlot{choice.name, "", choice.value}));
-            EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
-        }
-        for (int row = PendingWrites::firstMacroRow; row < PendingWrites::rowCount; ++row)
-            EXPECT_EQ(marked(row), row == 6) << row;
-        bench.click(id::applyButton);
-        EXPECT_EQ(bench.keyboard.profiles[0].gKeys[12], 1);
-        EXPECT_EQ(bench.keyboard.profiles[0].macros[4].name, "Tap");
-    });
+    const struct {
+        unsigned field;
+        int slot;
+        std::size_t menuRow;
+        PopupPlace place;
+        std::size_t row;
+        const char* name;
+        KeyAssignment value;
+    } choices[] = {
+        {id::gKeyField1, 0, multimediaRow, PopupPlace::Multimedia, 7, "Stop", {2, 0xA7, 0}},
+        {id::gKeyField2, 1, webRow, PopupPlace::Web, 0, "WWW Search", {2, 0xA8, 0}},
+        {id::gKeyField3, 2, mouseRow, PopupPlace::Mouse, 6, "Fire", {5, 0, 0}},
+        {id::gKeyField4, 3, mouseRow, PopupPlace::Mouse, 1, "Menu", {3, 2, 0}},
+        {id::gKeyField5, 4, macroRow, PopupPlace::MacroLibrary, 1, "Tap", {1, 0, 0}},
+    };
+    for (const auto& choice : choices) {
+        store.SetGKeyUrl(0, choice.slot, "/old");
+        window->link().pending().clearAll();
+        openMenu(choice.field);
+        point(PopupPlace::Category, choice.menuRow);
+        ASSERT_TRUE(isOpen(choice.place)) << choice.name;
+        EXPECT_TRUE(isOpen(PopupPlace::Category));
+        choose(choice.place, choice.row);
+        expectClosed(choice.field);
+        EXPECT_EQ(field(choice.field).valueText(), choice.name);
+        EXPECT_EQ(slot(choice.slot), (GKeySlot{choice.name, "", choice.value}));
+        EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
+    }
+    for (int row = PendingWrites::firstMacroRow; row < PendingWrites::rowCount; ++row)
+        EXPECT_EQ(marked(row), row == 6) << row;
+    click(id::applyButton);
+    EXPECT_EQ(keyboard.profiles[0].gKeys[12], 1);
+    EXPECT_EQ(keyboard.profiles[0].macros[4].name, "Tap");
 }
 
 TEST_F(GKeyPage, AListBesideTheMenuGivesWayToTheNextAndClosesWithItUnlessThePointerIsOnTheMenu) {
-    run([&] {
-        openMenu(id::gKeyField1);
-        bench.point(PopupPlace::Category, multimediaRow);
-        bench.point(PopupPlace::Category, webRow);
-        EXPECT_FALSE(bench.isOpen(PopupPlace::Multimedia));
-        const auto staysOpen = [&](Message closing, LParam kind) {
-            bench.window->send(closing, id::gKeyField1, kind);
-            return bench.isOpen(PopupPlace::Category) && bench.isOpen(PopupPlace::Web);
-        };
-        EXPECT_TRUE(staysOpen(msg::categoryClosing, 0) && staysOpen(msg::webClosing, 1));
-        const Rect menu = bench.list(PopupPlace::Category).screenRect();
-        testing::movePointer({menu.left + 20, menu.top + 45}); // its third row, which is hot
-        settle();
-        EXPECT_TRUE(staysOpen(msg::webClosing, 2));
-        testing::movePointer({1200, 1000});
-        settle();
-        EXPECT_FALSE(staysOpen(msg::webClosing, 2));
-        expectClosed(id::gKeyField1);
-        openMenu(id::gKeyField1);
-        bench.window->send(msg::categoryClosing, id::gKeyField1, 1);
-        EXPECT_TRUE(bench.isOpen(PopupPlace::Category));
-        bench.click(id::closeButton);
-        EXPECT_FALSE(bench.window->isVisible() || bench.window->popups().any());
-        bench.window->send(msg::categoryClosing, id::gKeyField1, 0);
-        expectClosed(id::gKeyField1);
-    });
+    openMenu(id::gKeyField1);
+    point(PopupPlace::Category, multimediaRow);
+    point(PopupPlace::Category, webRow);
+    EXPECT_FALSE(isOpen(PopupPlace::Multimedia));
+    const auto staysOpen = [&](Message closing, LParam kind) {
+        window->send(closing, id::gKeyField1, kind);
+        return isOpen(PopupPlace::Category) && isOpen(PopupPlace::Web);
+    };
+    EXPECT_TRUE(staysOpen(msg::categoryClosing, 0) && staysOpen(msg::webClosing, 1));
+    const Rect menu = list(PopupPlace::Category).screenRect();
+    testing::movePointer({menu.left + 20, menu.top + 45}); // its third row, which is hot
+    settle();
+    EXPECT_TRUE(staysOpen(msg::webClosing, 2));
+    testing::movePointer({1200, 1000});
+    settle();
+    EXPECT_FALSE(staysOpen(msg::webClosing, 2));
+    expectClosed(id::gKeyField1);
+    openMenu(id::gKeyField1);
+    window->send(msg::categoryClosing, id::gKeyField1, 1);
+    EXPECT_TRUE(isOpen(PopupPlace::Category));
+    click(id::closeButton);
+    EXPECT_FALSE(window->isVisible() || window->popups().any());
+    window->send(msg::categoryClosing, id::gKeyField1, 0);
+    expectClosed(id::gKeyField1);
 }
 
 TEST_F(GKeyPage, TheMenusOwnFunctionsNeedNoList) {
-    run([&] {
-        openMenu(id::gKeyField4);
-        bench.choose(PopupPlace::Category, noFunctionRow);
-        expectClosed(id::gKeyField4);
-        EXPECT_EQ(slot(3), (GKeySlot{"No Function", "", {0, 0, 0}}));
-        openMenu(id::gKeyField4);
-        bench.choose(PopupPlace::Category, defaultRow);
-        EXPECT_EQ(slot(3), (GKeySlot{"CTRL+4", "", {6, 1, 0x21}}));
-        bench.store.SetGKeyName(0, 5, "sixth");
-        bench.window->ShowCurrentProfile();
-        EXPECT_EQ(bench.field(id::gKeyField2).valueText(), "sixth") << "the slot without a field";
-    });
+    openMenu(id::gKeyField4);
+    choose(PopupPlace::Category, noFunctionRow);
+    expectClosed(id::gKeyField4);
+    EXPECT_EQ(slot(3), (GKeySlot{"No Function", "", {0, 0, 0}}));
+    openMenu(id::gKeyField4);
+    choose(PopupPlace::Category, defaultRow);
+    EXPECT_EQ(slot(3), (GKeySlot{"CTRL+4", "", {6, 1, 0x21}}));
+    store.SetGKeyName(0, 5, "sixth");
+    window->ShowCurrentProfile();
+    EXPECT_EQ(field(id::gKeyField2).valueText(), "sixth") << "the slot without a field";
 }
 
 TEST_F(GKeyPage, DialogsAnswerForTheFieldThatOpenedThem) {
-    run([&] {
-        const SelectionRecord shortcut{"Ctrl+Shift+A", {6, 3, 4}};
-        sendSelection(*bench.window, msg::shortcutChosen, 0, shortcut);
-        EXPECT_EQ(slot(1).Name, "CTRL+2") << "no field is waiting yet";
-        for (const Message wanted : {msg::shortcutWanted, msg::launchWanted}) {
-            openMenu(id::gKeyField2);
-            bench.window->send(wanted, id::gKeyField2);
-            expectClosed(id::gKeyField2);
-            EXPECT_TRUE(bench.answered(settle, [](CDlgBase& dialog) { dialog.endModal(IDCANCEL); }));
-        }
-        sendSelection(*bench.window, msg::shortcutChosen, 0, shortcut);
-        EXPECT_EQ(slot(1), (GKeySlot{"Ctrl+Shift+A", "", {6, 3, 4}}));
-        EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
+    const SelectionRecord shortcut{"Ctrl+Shift+A", {6, 3, 4}};
+    sendSelection(*window, msg::shortcutChosen, 0, shortcut);
+    EXPECT_EQ(slot(1).Name, "CTRL+2") << "no field is waiting yet";
+    for (const Message wanted : {msg::shortcutWanted, msg::launchWanted}) {
+        openMenu(id::gKeyField2);
+        window->send(wanted, id::gKeyField2);
+        expectClosed(id::gKeyField2);
+        EXPECT_TRUE(answered(settle, [](CDlgBase& dialog) { dialog.endModal(IDCANCEL); }));
+    }
+    sendSelection(*window, msg::shortcutChosen, 0, shortcut);
+    EXPECT_EQ(slot(1), (GKeySlot{"Ctrl+Shift+A", "", {6, 3, 4}}));
+    EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
 
-        const std::string path = "/usr/bin/editor";
-        const Sent<std::string> sent(path);
-        sendSelection(*bench.window, msg::launchChosen, sent.word(), {"editor", {7, 0, 0}});
-        sendSelection(*bench.window, msg::launchChosen, 0, {"none", {7, 0, 0}});
-        EXPECT_EQ(slot(1), (GKeySlot{"editor", path, {7, 0, 0}}));
-    });
+    const std::string path = "/usr/bin/editor";
+    const Sent<std::string> sent(path);
+    sendSelection(*window, msg::launchChosen, sent.word(), {"editor", {7, 0, 0}});
+    sendSelection(*window, msg::launchChosen, 0, {"none", {7, 0, 0}});
+    EXPECT_EQ(slot(1), (GKeySlot{"editor", path, {7, 0, 0}}));
 }
 
 } // namespace

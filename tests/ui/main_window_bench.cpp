@@ -1,7 +1,5 @@
 #include "main_window_bench.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <utility>
 
@@ -53,14 +51,11 @@ MainWindowBench::MainWindowBench() {
         m_hearsKeys);
 }
 
-void MainWindowBench::run(const std::function<void()>& scenario) {
-    loop().post([&] {
-        awaitKeyboard();
-        files.log.clear();
-        scenario();
-        window->endModal(IDCANCEL);
-    });
-    window->DoModal();
+void MainWindowBench::open() {
+    window->Create();
+    window->show();
+    awaitKeyboard();
+    files.log.clear();
 }
 
 void MainWindowBench::awaitKeyboard() {

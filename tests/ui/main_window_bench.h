@@ -2,6 +2,8 @@
 // one journal of what goes to files, keyboard and desktop.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -55,9 +57,8 @@ class MainWindowBench {
     NotingPresence presence{files.log};
     std::unique_ptr<CPelmoraDlg> window;
 
-    /// Runs the window, and the scenario in it once the window is active and the journal empty; then ends the
-    /// window.
-    void run(const std::function<void()>& scenario);
+    /// Shows the window and waits until it is active; the journal is empty then.
+    void open();
     /// Waits until keys reach the window, which has just been shown.
     void awaitKeyboard();
     /// What the journal holds but for reading; it is empty afterwards.
@@ -83,6 +84,12 @@ class MainWindowBench {
 
     bool m_hearsKeys = false;
     std::unique_ptr<MainLoop::Subscription> m_nextLook;
+};
+
+/// Tests of the window as it is after its start.
+class MainWindowTest : public ::testing::Test, public MainWindowBench {
+  protected:
+    void SetUp() override { open(); }
 };
 
 } // namespace tarnix

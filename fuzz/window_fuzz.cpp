@@ -7,6 +7,7 @@
 #include "platform_qt/modal_runs.h"
 #include "support/fake_clock.h"
 #include "support/memory_files.h"
+#include "support/prepared_shell.h"
 #include "ui/messages.h"
 #include "ui/pelmora_dlg.h"
 #include "virtual/virtual_hid.h"
@@ -17,7 +18,7 @@ namespace {
 
 Application* application;
 
-class Play : Shell, DesktopPresence {
+class Play : PreparedShell, DesktopPresence {
   public:
     explicit Play(const Input& input) : m_input(input) {
         m_hid.missing = {VirtualKeyboard::eventInterface};
@@ -67,16 +68,10 @@ class Play : Shell, DesktopPresence {
         if (seed % 4 == 1) return id::closeButton + m_input.take<std::uint16_t>() % 310;
         return static_cast<WParam>(seed / 4 - 3);
     }
-    std::optional<std::string> path() {
+    std::optional<std::string> openFile(const FileDialog&, Window&) override {
         if (m_input.flag()) return std::nullopt;
         return m_input.flag() ? "/kbd/config\\default1.psf" : "/kbd/config\\MacroLibraryFile.mlf";
     }
-
-    void messageBox(const std::string&) override {}
-    std::optional<std::string> openFile(const FileDialog&, Window&) override { return path(); }
-    std::optional<std::string> saveFile(const FileDialog&, Window&) override { return path(); }
-    void openLink(const std::string&) override {}
-    void launch(const std::string&) override {}
     void AddTrayIcon(Window&) override {}
     void RemoveTrayIcon() override {}
     bool isTrayShown() const override { return true; }

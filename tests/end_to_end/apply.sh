@@ -2,11 +2,8 @@
 # Edits by pointer and key reach the keyboard and the disk at Apply, once, lighting before key codes; Escape drops the rest.
 source "$(dirname "$0")/scenario.sh"
 
-start
-eventually reports_are "${full_read[@]}"
+start_read
 cp -r "$config" "$desktop/before"
-point CPelmoraDlg 400 200
-eventually painted CPelmoraDlg
 plain=$(picture CPelmoraDlg $f1)
 remap_f1 F5
 remapped() { ! looks_like CPelmoraDlg $f1 "$plain"; }

@@ -47,8 +47,7 @@ given
 mount -t tmpfs -o size=96k none "$config"
 cp "$desktop/given"/* "$config"
 chown -R 65534 "$config" 2> /dev/null || true
-start
-eventually reports_are "${full_read[@]}"
+start_read
 cat /dev/zero > "$config/filler" 2> /dev/null || true
 keeps F5
 rm "$config/filler"
@@ -69,8 +68,7 @@ end_program
 given
 for mode in 500 000; do
     chmod $mode "$config"
-    start
-    eventually reports_are "${full_read[@]}"
+    start_read
     remap_f1 F9
     apply
     eventually reports_are "set 06" "set 05"

@@ -14,8 +14,7 @@ default_profile() {
     done
 }
 
-start
-eventually reports_are "${full_read[@]}"
+start_read
 end_program
 reports_are "set 05 active profile: program ends"
 

@@ -2,11 +2,8 @@
 # One copy runs at a time, whatever became of the one before; a current profile that is none is shown and written nowhere.
 source "$(dirname "$0")/scenario.sh"
 
-start
-eventually reports_are "${full_read[@]}"
+start_read
 first=$window_id
-point CPelmoraDlg 400 200
-eventually painted CPelmoraDlg
 plain=$(picture CPelmoraDlg $f1)
 
 mkdir "$desktop/other"
@@ -35,8 +32,6 @@ while read -r text changed; do
     cp "$desktop/given"/* "$config"
     sed -i "2s/=.*/=$text/" "$config/config.ini"
     start --unplugged
-    point CPelmoraDlg 400 200
-    eventually painted CPelmoraDlg
     [ "$(looks_like CPelmoraDlg $f1 "$plain" || echo remapped)" = "${changed:+remapped}" ] || fail "shown with $text"
     remap_f1 F6
     apply

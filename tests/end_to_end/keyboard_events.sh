@@ -11,8 +11,7 @@ chmod +x "$program/plain" "$program/$odd"
 sed -i "14s|\$|$program/plain|; 17s|\$|$program/plain; touch evil|; 20s|\$|\$(touch $program/evil)|
     23s|\$|$program/plain argument|; 26s|\$|$program/$odd|" "$config/default0.psf"
 cp "$config/default0.psf" "$desktop/before.psf"
-start
-eventually reports_are "${full_read[@]}"
+start_read
 for key in 2 3 4 5; do
     keyboard launch $key
 done

@@ -11,9 +11,15 @@ config=$program/config
 mkdir "$program"
 ln "$TARNIX_KEYBOARD" "$program/" 2> /dev/null || cp "$TARNIX_KEYBOARD" "$program/"
 
-# start [OPTION...]: the program with a virtual keyboard; the options are the latter's.
+# start [OPTION...]: the program with a virtual keyboard; the options are the latter's. start_read: and it has read that.
 start() {
     start_program "$program" 1 "$@"
+    point CPelmoraDlg 400 200
+    eventually painted CPelmoraDlg
+}
+start_read() {
+    start
+    eventually reports_are "${full_read[@]}"
 }
 
 full_read=("get 05 active profile:")

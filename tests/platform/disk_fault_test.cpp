@@ -67,8 +67,7 @@ int __wrap_linkat(int, const char* from, int, const char* to, int flags) {
 }
 int __real_close(int file);
 int __wrap_close(int file) {
-    const bool fails = meetsFault();
-    return __real_close(file) != 0 || fails ? -1 : 0;
+    return __real_close(file) != 0 || meetsFault() ? -1 : 0;
 }
 int __real_rename(const char* from, const char* to);
 int __wrap_rename(const char* from, const char* to) {
@@ -106,13 +105,6 @@ class DiskFaultTest : public testing::Test {
             SaveProfileFile(store, n, *files);
         }
     }
-    void start() {
-        LoadMacroLibrary(macros, *files, folder);
-        LoadConfig(store, *files, folder);
-        for (int n = 0; n < profileCount; ++n)
-            LoadProfileFile(store, n, *files);
-    }
-
     Texts present() const {
         Texts all;
         for (const auto& entry : fs::directory_iterator(config)) {
@@ -185,7 +177,13 @@ TEST_F(DiskFaultTest, AFailureAtAnyCallKeepsTheOldFileAndLeavesNothingBehind) {
         count += sweep(
             error, lasts, texts[0], [this] { save(1); }, [this] { expectWhole(); });
         count += sweep(
-            error, lasts, damaged, [this] { start(); },
+            error, lasts, damaged,
+            [this] {
+                LoadMacroLibrary(macros, *files, folder);
+                LoadConfig(store, *files, folder);
+                for (int n = 0; n < profileCount; ++n)
+                    LoadProfileFile(store, n, *files);
+            },
             [&] {
                 Texts left = present();
                 for (const auto& [name, text] : damaged)

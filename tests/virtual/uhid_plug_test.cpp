@@ -22,9 +22,7 @@ struct Device final : BusFunction {
     std::vector<std::uint8_t> held;
 };
 
-std::vector<std::uint8_t> bytes(const std::uint8_t* data, std::size_t length) {
-    return {data, data + length};
-}
+using Bytes = std::vector<std::uint8_t>;
 
 /// The kernel's end of /dev/uhid, where every event is a packet.
 class UhidPlugTest : public testing::Test {
@@ -58,11 +56,12 @@ class UhidPlugTest : public testing::Test {
 TEST_F(UhidPlugTest, MakesADeviceThatAnswersWithTheRequestsNumberAndTakesItAway) {
     const uhid_event create = told();
     EXPECT_EQ(create.type, UHID_CREATE2);
-    EXPECT_THAT(bytes(create.u.create2.rd_data, create.u.create2.rd_size), ElementsAre(5, 10, 0xC0));
-    plug->sendInput(std::vector<std::uint8_t>{5, 2, 0});
+    EXPECT_THAT(Bytes(create.u.create2.rd_data, create.u.create2.rd_data + create.u.create2.rd_size),
+                ElementsAre(5, 10, 0xC0));
+    plug->sendInput(Bytes{5, 2, 0});
     const uhid_event input = told();
     EXPECT_EQ(input.type, UHID_INPUT2);
-    EXPECT_THAT(bytes(input.u.input2.data, input.u.input2.size), ElementsAre(5, 2, 0));
+    EXPECT_THAT(Bytes(input.u.input2.data, input.u.input2.data + input.u.input2.size), ElementsAre(5, 2, 0));
 
     uhid_event get{};
     get.type = UHID_GET_REPORT;
@@ -72,7 +71,7 @@ TEST_F(UhidPlugTest, MakesADeviceThatAnswersWithTheRequestsNumberAndTakesItAway)
     const auto got = told().u.get_report_reply;
     EXPECT_EQ(got.id, 41u);
     EXPECT_EQ(got.err, 0);
-    EXPECT_THAT(bytes(got.data, got.size), ElementsAre(7, 8, 9));
+    EXPECT_THAT(Bytes(got.data, got.data + got.size), ElementsAre(7, 8, 9));
 
     uhid_event set{};
     set.type = UHID_SET_REPORT;

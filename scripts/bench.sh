@@ -32,7 +32,7 @@ cmake --build --preset bench
 first=()
 if chrt -r 1 true 2> /dev/null; then first=(chrt -r 1); fi
 on_display() {
-    "${first[@]}" sh tests/support/with_display.sh "${display[@]}" --size 1280x800 -- "$@"
+    "${first[@]}" sh scripts/with_display.sh "${display[@]}" --size 1280x800 -- "$@"
 }
 
 status=0

@@ -1,5 +1,5 @@
 # A user's hands and eyes for the tour and the end-to-end tests: source it in a bash that runs under
-# tests/support/with_display.sh. What it starts ends with the shell.
+# scripts/with_display.sh. What it starts ends with the shell.
 
 desktop=$(mktemp -d)
 desktop_pids=()

@@ -29,7 +29,7 @@ chmod 755 "$trial"
 root=$trial/root
 mkdir -p "$root"/var/lib/dpkg/{info,updates,triggers} "$trial/user"
 touch "$root"/var/lib/dpkg/{status,available}
-cp scripts/{desktop,try_installed}.sh tests/support/with_display.sh "$trial/"
+cp scripts/{desktop,try_installed,with_display}.sh "$trial/"
 chmod -R a+rX "$trial"
 [ ${#as_user[@]} = 0 ] || chown 65534:65534 "$trial/user"
 

@@ -85,7 +85,7 @@ launch() {
 }
 
 soak() {
-    tried "Window and keyboard used at random" soak tests/support/with_display.sh scripts/soak.sh "$(short_or_long 30 600)" \
+    tried "Window and keyboard used at random" soak scripts/with_display.sh scripts/soak.sh "$(short_or_long 30 600)" \
         "${SEED:-1}"
 }
 

@@ -21,7 +21,7 @@ for scale in "$@"; do
     rm -rf "$folder"
     mkdir -p "$folder"
     on_a_desktop() {
-        GALLERY_FOLDER=$folder tests/support/with_display.sh --size $((1000 * scale / 100))x$((760 * scale / 100)) \
+        GALLERY_FOLDER=$folder scripts/with_display.sh --size $((1000 * scale / 100))x$((760 * scale / 100)) \
             --dpi $((96 * scale / 100)) -- "$@" --gtest_brief=1
     }
     on_a_desktop build/tarnix-gallery

@@ -2,7 +2,7 @@
 # Uses the window and the keyboard at random, like somebody who does not care, and watches the program: it must neither end
 # nor hang, nor hold more memory, handles or threads than after the first minute. To be run on a display of its own:
 #
-#   tests/support/with_display.sh scripts/soak.sh [SECONDS [SEED]]
+#   scripts/with_display.sh scripts/soak.sh [SECONDS [SEED]]
 set -euo pipefail
 seconds=${1:-60}
 RANDOM=${2:-1}

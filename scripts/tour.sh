@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 if [ "${1:-}" != --here ]; then
-    exec tests/support/with_display.sh --size 1280x800 scripts/tour.sh --here
+    exec scripts/with_display.sh --size 1280x800 scripts/tour.sh --here
 fi
 source scripts/desktop.sh
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # try_installed.sh ROOT: tries what is installed below ROOT, which the user must not be able to write to, with a virtual
-# keyboard. To be run under tests/support/with_display.sh.
+# keyboard. To be run under scripts/with_display.sh.
 set -euo pipefail
 cd "$(dirname "$0")"
 source ./desktop.sh

@@ -22,6 +22,8 @@ endfunction()
 function(tarnix_options target)
   target_compile_options(${target} PRIVATE ${TARNIX_WARNINGS})
   if(TARNIX_SANITIZE)
+    # The instrumented code misleads g++ about what is initialised.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_compile_options(${target} PRIVATE -fsanitize=${TARNIX_SANITIZE} -fno-omit-frame-pointer -g)
     target_link_options(${target} PUBLIC -fsanitize=${TARNIX_SANITIZE})
   endif()

@@ -171,7 +171,8 @@ class DiskFaultTest : public testing::Test {
 TEST_F(DiskFaultTest, AFailureAtAnyCallKeepsTheOldFileAndLeavesNothingBehind) {
     int count = 0;
     Texts damaged = texts[1];
-    damaged["default3.psf"].resize(20);
+    for (const char* name : {"config.ini", "MacroLibraryFile.mlf", "default3.psf"})
+        damaged[name].resize(20);
     for (const auto& [error, lasts] :
          {std::pair{ENOSPC, true}, {ENOSPC, false}, {EROFS, true}, {EIO, false}, {EMFILE, false}}) {
         count += sweep(

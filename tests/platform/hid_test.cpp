@@ -5,7 +5,8 @@
 #include <future>
 #include <thread>
 
-#include "platform/main_loop.h"
+#include "support/echo_function.h"
+#include "support/queue_loop.h"
 #include "virtual/glib_source.h"
 #include "virtual/launcher_bus.h"
 #include "virtual/virtual_keyboard.h"
@@ -16,27 +17,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using ReadResult = HidDevice::ReadResult;
-
-/// A device whose get answers with the report it was set last, or with what the test says.
-class EchoFunction final : public BusFunction {
-  public:
-    FeatureAnswer setFeature(std::span<const std::uint8_t> report) override {
-        held.assign(report.begin(), report.end());
-        return {accepts};
-    }
-    FeatureAnswer getFeature(std::uint8_t, std::size_t) override { return {accepts, held}; }
-
-    std::vector<std::uint8_t> held;
-    bool accepts = true;
-};
-
-/// Nothing here waits for the loop, which only serves to tell of plugging.
-class NoLoop final : public MainLoop {
-  public:
-    std::unique_ptr<Subscription> watch(int, std::function<void()>) override { return {}; }
-    std::unique_ptr<Subscription> after(Milliseconds, std::function<void()>) override { return {}; }
-    void post(std::function<void()>) override {}
-};
 
 /// A bus whose main loop runs on a thread of its own, as the launcher is a process of its own.
 class HidTest : public testing::Test {
@@ -85,7 +65,7 @@ class HidTest : public testing::Test {
     EchoFunction function; ///< the bus's thread's alone
     std::unique_ptr<Bus> bus = makeMockBus();
     std::vector<std::unique_ptr<BusPlug>> plugs;
-    NoLoop loop;
+    QueueLoop loop;
     std::unique_ptr<Hid> hid = makeSystemHid(loop);
 
   private:
@@ -129,9 +109,9 @@ TEST_F(HidTest, CarriesFeatureReportsAndLeavesTheBufferAloneAfterAFailure) {
 
     onBus([&] { function.held.resize(5); });
     EXPECT_FALSE(device->getFeature(answer)) << "a short answer is none";
-    onBus([&] { function.accepts = false; });
+    onBus([&] { function.answer.accepted = false; });
     EXPECT_FALSE(device->getFeature(answer) || device->setFeature(report));
-    onBus([&] { function.accepts = true; });
+    onBus([&] { function.answer.accepted = true; });
     unplugAll();
     EXPECT_FALSE(device->getFeature(answer) || device->setFeature(report));
     EXPECT_EQ(answer, report);

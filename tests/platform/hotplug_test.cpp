@@ -2,21 +2,21 @@
 
 #include <gmock/gmock.h>
 
+#include "support/queue_loop.h"
+
 namespace tarnix {
 namespace {
 
 using testing::ElementsAre;
 
 /// A loop with one timer at a time, which rings when the test says so.
-class OneTimer final : public MainLoop {
+class OneTimer final : public QueueLoop {
   public:
-    std::unique_ptr<Subscription> watch(int, std::function<void()>) override { return {}; }
     std::unique_ptr<Subscription> after(Milliseconds time, std::function<void()> callback) override {
         times.push_back(static_cast<int>(time.count()));
         m_callback = std::move(callback);
         return std::make_unique<Subscription>();
     }
-    void post(std::function<void()>) override {}
 
     /// False when none is set.
     bool ring() {

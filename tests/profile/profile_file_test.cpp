@@ -93,11 +93,6 @@ TEST(ProfileFile, ShortFileIsSetAsideAndBecomesTheDefaultsWithTheUrlsReadSoFar) 
     EXPECT_EQ(files.contents["/p.psf"], formatProfile(expected));
     EXPECT_TRUE(LoadProfileFile(store, 2, files));
 
-    files.contents["/p.psf"] = cut;
-    files.failSetAside = true;
-    EXPECT_FALSE(LoadProfileFile(store, 2, files));
-    EXPECT_EQ(files.contents["/p.psf"], cut) << "nothing is lost without a copy";
-
     EXPECT_FALSE(LoadProfileFile(store, 4, files)) << "no path at all";
     EXPECT_EQ(*store.record(4), defaultRecord(4));
     EXPECT_FALSE(LoadProfileFile(store, 5, files));

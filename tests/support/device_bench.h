@@ -2,12 +2,7 @@
 // notes what it is told.
 #pragma once
 
-#include <chrono>
-#include <condition_variable>
-#include <deque>
-#include <functional>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,54 +11,13 @@
 #include "profile/numbers.h"
 #include "support/fake_clock.h"
 #include "support/memory_files.h"
+#include "support/queue_loop.h"
 #include "virtual/virtual_hid.h"
 #include "virtual/virtual_keyboard.h"
 
 namespace tarnix {
 
 using Words = std::vector<std::string>;
-
-/// A loop that runs posted work when the test says so.
-class QueueLoop : public MainLoop {
-  public:
-    std::unique_ptr<Subscription> watch(int, std::function<void()>) override { return nullptr; }
-    std::unique_ptr<Subscription> after(Milliseconds, std::function<void()>) override { return nullptr; }
-    void post(std::function<void()> work) override {
-        const std::lock_guard lock(m_mutex);
-        m_work.push_back(std::move(work));
-        m_posted.notify_all();
-    }
-    /// Whether that much posted work comes to wait.
-    bool holds(std::size_t count) {
-        std::unique_lock lock(m_mutex);
-        return m_posted.wait_for(lock, std::chrono::seconds(20), [&] { return m_work.size() == count; });
-    }
-    /// Runs the next piece of work; false when it takes too long to come.
-    bool runOne(Milliseconds patience = std::chrono::seconds(20)) {
-        std::unique_lock lock(m_mutex);
-        if (!m_posted.wait_for(lock, patience, [this] { return !m_work.empty(); })) return false;
-        const auto work = std::move(m_work.front());
-        m_work.pop_front();
-        lock.unlock();
-        work();
-        return true;
-    }
-    /// Runs work as it comes until the condition holds; false when none comes any more.
-    bool runUntil(const std::function<bool()>& condition) {
-        while (!condition())
-            if (!runOne()) return false;
-        return true;
-    }
-    void runPosted() {
-        while (runOne(Milliseconds(0))) {
-        }
-    }
-
-  private:
-    std::mutex m_mutex;
-    std::condition_variable m_posted;
-    std::deque<std::function<void()>> m_work;
-};
 
 class NotingOwner : public DeviceObserver {
   public:

@@ -7,20 +7,12 @@
 
 #include <optional>
 
+#include "support/echo_function.h"
+
 namespace tarnix {
 namespace {
 
 using testing::ElementsAre;
-
-struct Device final : BusFunction {
-    FeatureAnswer setFeature(std::span<const std::uint8_t> report) override {
-        held.assign(report.begin(), report.end());
-        return answer;
-    }
-    FeatureAnswer getFeature(std::uint8_t, std::size_t) override { return answer; }
-    FeatureAnswer answer{true};
-    std::vector<std::uint8_t> held;
-};
 
 using Bytes = std::vector<std::uint8_t>;
 
@@ -48,7 +40,7 @@ class UhidPlugTest : public testing::Test {
         return event;
     }
 
-    Device device;
+    EchoFunction device;
     FileDescriptor kernel;
     std::optional<UhidPlug> plug;
 };
@@ -66,7 +58,7 @@ TEST_F(UhidPlugTest, MakesADeviceThatAnswersWithTheRequestsNumberAndTakesItAway)
     uhid_event get{};
     get.type = UHID_GET_REPORT;
     get.u.get_report = {41, 7, UHID_FEATURE_REPORT};
-    device.answer = {true, {7, 8, 9}};
+    device.held = {7, 8, 9};
     ask(get);
     const auto got = told().u.get_report_reply;
     EXPECT_EQ(got.id, 41u);

@@ -66,8 +66,17 @@ TEST_F(MacroManager, OpensOnTheAskedSetAndSavesOnlyOnOk) {
         EXPECT_EQ(result, button == okButton ? IDOK : IDCANCEL);
         EXPECT_EQ(macroNames(stored(), 1).size(), button == okButton ? 0U : 1U);
     }
+    AddMacroKey(library.sets[1], "c");
+    store(library);
     CMacroManagerDlg outside(nullptr, files, folder, 7);
-    play(outside, [&] { EXPECT_EQ(fieldText(outside), "Disable"); });
+    play(outside, [&] {
+        EXPECT_EQ(fieldText(outside), "Disable");
+        outside.send(setListChosen, setField, 2 + 1);
+        auto* list = outside.control<CEditShowList>(macroList);
+        list->m_nSelected = 1;
+        sendName(outside, deleteSetByName, "One");
+        EXPECT_EQ(list->m_nSelected, 1) << "what is selected in the set stays";
+    });
 }
 
 TEST_F(MacroManager, SetsAreAddedChosenAndDeletedByName) {

@@ -1,5 +1,8 @@
 #include "platform/edit_field.h"
 
+#include <QGuiApplication>
+#include <QPointer>
+
 #include "window_fixture.h"
 
 namespace tarnix::testing {
@@ -77,14 +80,18 @@ TEST_F(Edit, TheWindowSeesEachKeyOnceAndFirst) {
 TEST_F(Edit, AFieldMayBeDeletedByItsOwnEnterAndTheKeysGoToTheWindow) {
     auto field = std::make_unique<EditField>(m_window, 1, Rect::at(20, 20, 150, 20));
     field->setFocus();
+    const QPointer<QObject> native = QGuiApplication::focusObject();
     m_window.onKey = [&](const KeyPress& key) {
-        if (key.key == KeyPress::Key::Enter) field.reset();
+        if (key.key != KeyPress::Key::Enter || !key.down) return;
+        field.reset();
+        EXPECT_TRUE(native) << "it is still at work with the key";
     };
     tapKey("Return");
     ASSERT_TRUE(logged("key up Enter"));
     tapKey("a");
     ASSERT_TRUE(logged("key up other"));
     EXPECT_THAT(m_log, ElementsAre("key Enter", "key up Enter", "key other", "key up other"));
+    EXPECT_FALSE(native);
 }
 
 } // namespace

@@ -66,9 +66,6 @@ class EditorWindow : public CDlgBase {
         editor.pressAt(at);
         if (at != elsewhere) CDlgBase::OnLButtonDown(flags, at); // which would start moving the window
     }
-    void play(const std::function<void()>& steps) {
-        playIn(*this, [&](UiScenario& ui) { ui.run(steps); });
-    }
     bool disabled(unsigned id) const { return GetControl(id)->m_bDisabled; }
 
     MacroLibrary library;
@@ -174,7 +171,7 @@ TEST(MacroEditor, ANoticeThatOpensInAPressTakesItsReleaseAndTheNextClickWorks) {
 TEST(MacroEditor, SaysWhatItCannotDo) {
     EditorWindow page(macroPageRules, {"Fire", "Ice"});
     page.editor.protectedName = "Ice";
-    page.play([&] {
+    playIn(page, [&] {
         clickAt(page, {50, 30});
         EXPECT_EQ(page.editor.shownMacro(), &page.library.sets[0].keys[1]);
         clickControl(page, ids.deleteMacro);
@@ -196,19 +193,17 @@ TEST(MacroEditor, SaysWhatItCannotDo) {
 
 TEST(MacroEditor, ListsScrollByWheelAndBarAsFarAsTheirRowsGo) {
     EditorWindow page(macroPageRules, std::vector<std::string>(10, "M"));
-    page.play([&] {
+    playIn(page, [&] {
         page.OnMouseMove(0, {50, 30});
         for (const auto& [delta, first] : {std::pair{120, 0}, {-120, 1}, {-120, 2}, {120, 1}}) {
             page.editor.onMouseWheel(delta);
             EXPECT_EQ(page.editor.macros().m_nFirstRow, first);
         }
         using Bar = CVScrollBar;
-        for (const auto& [part, first] : {std::pair{Bar::partDown, 2},
-                                          {Bar::partBelow, 6},
-                                          {Bar::partDown, 6},
-                                          {Bar::partUp, 5},
-                                          {Bar::partAbove, 1},
-                                          {Bar::partThumb, 1}}) {
+        const std::pair<unsigned, int> presses[] = {{Bar::partDown, 2},  {Bar::partBelow, 6},
+                                                    {Bar::partDown, 6},  {Bar::partUp, 5},
+                                                    {Bar::partAbove, 1}, {Bar::partThumb, 1}};
+        for (const auto& [part, first] : presses) {
             page.send(ids.macroScrollBar, part, NOTIFY_DOWN);
             EXPECT_EQ(page.editor.macros().m_nFirstRow, first);
         }
@@ -223,7 +218,7 @@ TEST(MacroEditor, RecordingReplacesTheMacroWithTheOtherControlsDisabled) {
     EditorWindow page(macroPageRules, {"Fire"});
     MacroKey& macro = page.library.sets[0].keys[0];
     AppendAction(macro, MacroAction::key(0x5A, false));
-    page.play([&] {
+    playIn(page, [&] {
         clickControl(page, ids.recordSwitch);
         EXPECT_EQ(macro.actionCount, 0U);
         EXPECT_TRUE(page.disabled(ids.newMacro) && page.disabled(ids.macroList) &&
@@ -244,7 +239,7 @@ TEST(MacroEditor, RecordingReplacesTheMacroWithTheOtherControlsDisabled) {
 
 TEST(MacroEditor, AFullMacroEndsItsRecordingBeforeTheNotice) {
     EditorWindow page(macroPageRules, {"Fire"});
-    page.play([&] {
+    playIn(page, [&] {
         clickControl(page, ids.recordSwitch);
         for (unsigned i = 0; i < 100; ++i)
             hookEvent(page, 0x41 + i % 2, i);

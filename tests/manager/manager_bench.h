@@ -25,9 +25,4 @@ inline std::vector<std::string> macroNames(const MacroLibrary& library, int set 
     return names;
 }
 
-/// What the key hook posts for an event of a key at a time.
-inline void hookEvent(Window& window, unsigned virtualKey, unsigned time, bool released = false) {
-    window.send(0x401, virtualKey, static_cast<LParam>(time | (released ? 0x80000000U : 0U)));
-}
-
 } // namespace tarnix

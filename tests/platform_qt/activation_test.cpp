@@ -8,6 +8,7 @@ namespace {
 class Activation : public WindowTest {
   protected:
     static constexpr Rect popupPlace = Rect::at(150, 300, 120, 90);
+    void SetUp() override { showMain(m_main); }
 
     void showPopup(RecordingWindow& popup, Window& owner, const Rect& place = popupPlace) {
         ASSERT_TRUE(popup.createWindow({.kind = WindowKind::Popup, .owner = &owner, .role = "Popup"}, place));
@@ -15,7 +16,7 @@ class Activation : public WindowTest {
     }
     /// The log without what the pointer and the keys did.
     Log changes() {
-        std::erase_if(m_log, [](const std::string& entry) { return !entry.ends_with("active"); });
+        keep("active");
         return m_log;
     }
 
@@ -24,7 +25,6 @@ class Activation : public WindowTest {
 };
 
 TEST_F(Activation, ShowingAPopupDeactivatesItsOwnerBeforeTheCallReturns) {
-    showMain(m_main);
     showPopup(m_popup, m_main);
     EXPECT_THAT(m_log, ElementsAre("main inactive", "popup active"));
     RecordingWindow second("second", m_log);
@@ -37,7 +37,6 @@ TEST_F(Activation, ShowingAPopupDeactivatesItsOwnerBeforeTheCallReturns) {
 }
 
 TEST_F(Activation, APressElsewhereInTheProgramMovesItAndOneInThePopupDoesNot) {
-    showMain(m_main);
     showPopup(m_popup, m_main);
     ASSERT_TRUE(runUntil([&] { return m_popup.screenRect() == popupPlace; }));
     click({160, 310});
@@ -52,7 +51,6 @@ TEST_F(Activation, APressElsewhereInTheProgramMovesItAndOneInThePopupDoesNot) {
 }
 
 TEST_F(Activation, ThePopupIsDeactivatedWhenTheProgramLosesTheFocusOrTheOwnerGoesFromTheScreen) {
-    showMain(m_main);
     tapKey("a");
     ASSERT_TRUE(logged("main key other")) << "the main window has the focus";
     showPopup(m_popup, m_main);
@@ -62,20 +60,16 @@ TEST_F(Activation, ThePopupIsDeactivatedWhenTheProgramLosesTheFocusOrTheOwnerGoe
     other.reset();
     settle();
 
-    m_popup.raise();
-    m_log.clear();
-    m_main.hide();
-    EXPECT_THAT(changes(), ElementsAre("popup inactive"));
-
-    m_main.show();
-    m_popup.raise();
-    m_log.clear();
-    m_main.minimise();
-    EXPECT_THAT(changes(), ElementsAre("popup inactive"));
+    for (const bool hidden : {true, false}) {
+        m_main.show();
+        m_popup.raise();
+        m_log.clear();
+        hidden ? m_main.hide() : m_main.minimise();
+        EXPECT_THAT(changes(), ElementsAre("popup inactive"));
+    }
 }
 
 TEST_F(Activation, KeysGoToTheOwnerWhileThePopupIsOpenAndClosingItActivatesTheOwner) {
-    showMain(m_main);
     showPopup(m_popup, m_main);
     settle();
     click({160, 310});
@@ -104,7 +98,6 @@ class Passing : public RecordingWindow {
 };
 
 TEST_F(Activation, APopupThatIsClosedInItsHandlerVanishesAtOnceAndIsDestroyedAfterIt) {
-    showMain(m_main);
     auto* passing = new Passing("popup", m_log);
     showPopup(*passing, m_main);
     settle();

@@ -23,8 +23,6 @@ class Edit : public WindowTest {
     static bool holds(const EditField& field, const std::string& text) {
         return runUntil([&] { return field.text() == text; });
     }
-
-    RecordingWindow m_window{"", m_log};
 };
 
 TEST_F(Edit, TheUsersChangesAreToldAndTheProgramsAreNot) {
@@ -34,8 +32,6 @@ TEST_F(Edit, TheUsersChangesAreToldAndTheProgramsAreNot) {
     settle();
     EXPECT_EQ(changes(17), 0);
     typeText("cd");
-    EXPECT_TRUE(holds(field, "abcd"));
-    EXPECT_EQ(changes(17), 2);
     tapKey("BackSpace");
     EXPECT_TRUE(holds(field, "abc"));
     EXPECT_EQ(changes(17), 3);
@@ -54,8 +50,6 @@ TEST_F(Edit, NumbersOnlyKeepsLettersFromBeingTypedButNotFromBeingPasted) {
     tapKey("ctrl+c");
     click({140, 190});
     typeText("1a2");
-    EXPECT_TRUE(holds(numbers, "12"));
-    EXPECT_EQ(changes(2), 2);
     tapKey("ctrl+v");
     EXPECT_TRUE(holds(numbers, "12x9"));
     EXPECT_EQ(changes(2), 3);

@@ -22,6 +22,10 @@ class Dialog : public RecordingWindow {
 
 class ModalRun : public WindowTest {
   protected:
+    void SetUp() override {
+        showMain(m_main);
+        ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
+    }
     /// Runs the steps from the event loop, once the run has begun.
     void then(std::function<void()> steps) {
         application().mainLoop().post([this, steps = std::move(steps)] {
@@ -39,8 +43,6 @@ class ModalRun : public WindowTest {
 };
 
 TEST_F(ModalRun, TheDialogAndItsPopupsAloneTakeInputAndTheAnswerComesBack) {
-    showMain(m_main);
-    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
     RecordingWindow popup("popup", m_log);
     then([&] {
         ASSERT_TRUE(shown(m_dialog));
@@ -64,8 +66,6 @@ TEST_F(ModalRun, TheDialogAndItsPopupsAloneTakeInputAndTheAnswerComesBack) {
 }
 
 TEST_F(ModalRun, EscapeCancelsUnlessTheWindowSwallowsItAndEnterDoesNothing) {
-    showMain(m_main);
-    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
     m_dialog.swallowsKeys = true;
     then([&] {
         ASSERT_TRUE(shown(m_dialog));
@@ -83,8 +83,6 @@ TEST_F(ModalRun, EscapeCancelsUnlessTheWindowSwallowsItAndEnterDoesNothing) {
 }
 
 TEST_F(ModalRun, EndingAnOuterRunCancelsTheInnerOnesFirst) {
-    showMain(m_main);
-    ASSERT_TRUE(m_dialog.open(m_main, dialogPlace));
     ASSERT_TRUE(m_inner.open(m_dialog, innerPlace));
     then([&] {
         then([&] { m_dialog.endModal(IDOK); });
@@ -94,7 +92,7 @@ TEST_F(ModalRun, EndingAnOuterRunCancelsTheInnerOnesFirst) {
         m_log.push_back("late answers " + std::to_string(late.runModal()));
     });
     m_log.push_back("outer answers " + std::to_string(m_dialog.runModal()));
-    std::erase_if(m_log, [](const std::string& entry) { return entry.find("answers") == std::string::npos; });
+    keep("answers");
     EXPECT_THAT(m_log, ElementsAre("inner answers 2", "late answers 2", "outer answers 1"));
 }
 

@@ -26,13 +26,12 @@ class Hand : public RecordingWindow {
     bool moves = false;
 };
 
-class Mouse : public WindowTest {
-  protected:
+struct Mouse : WindowTest {
+    void SetUp() override { showMain(m_window); }
     Hand m_window{m_log};
 };
 
 TEST_F(Mouse, ButtonsMovesAndWheelArriveInClientCoordinatesAndASecondPressIsADoubleClick) {
-    showMain(m_window);
     movePointer({150, 180});
     ASSERT_TRUE(logged("move 0 50,60"));
     m_log.clear();
@@ -49,7 +48,6 @@ TEST_F(Mouse, ButtonsMovesAndWheelArriveInClientCoordinatesAndASecondPressIsADou
 }
 
 TEST_F(Mouse, CaptureBringsWhatHappensOutsideAndLeaveComesAfterTheRelease) {
-    showMain(m_window);
     m_window.captures = m_window.tracks = true;
     movePointer({150, 180});
     ASSERT_TRUE(logged("move 0 50,60"));
@@ -67,7 +65,6 @@ TEST_F(Mouse, CaptureBringsWhatHappensOutsideAndLeaveComesAfterTheRelease) {
 }
 
 TEST_F(Mouse, AWindowFollowsThePointerThatStartedToMoveItUntilTheRelease) {
-    showMain(m_window);
     m_window.startMove();
     movePointer({150, 180});
     ASSERT_TRUE(logged("move 0 50,60")) << "with no button down there is nothing to move";
@@ -86,19 +83,18 @@ TEST_F(Mouse, AWindowFollowsThePointerThatStartedToMoveItUntilTheRelease) {
     settle();
     click({360, 390});
     ASSERT_TRUE(logged("up 0 60,70"));
-    std::erase_if(m_log, [](const std::string& entry) { return !entry.starts_with("up"); });
+    keep("up");
     EXPECT_THAT(m_log, ElementsAre("up 0 60,70"));
 }
 
 TEST_F(Mouse, WhatTheOutlineLeavesOutIsNoPartOfTheWindow) {
-    showMain(m_window);
     const Rect outline[] = {Rect::at(0, 0, 150, 200), Rect::at(150, 100, 150, 100)};
     m_window.setShape(outline);
     settle();
     for (const Point at : {Point{300, 150}, {200, 150}, {300, 250}})
         click(at);
     ASSERT_TRUE(logged("up 0 200,130"));
-    std::erase_if(m_log, [](const std::string& entry) { return !entry.starts_with("up"); });
+    keep("up");
     EXPECT_THAT(m_log, ElementsAre("up 0 100,30", "up 0 200,130"));
 }
 

@@ -10,10 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class Pause : public WindowTest {
-  protected:
-    RecordingWindow m_window{"", m_log};
-};
+using Pause = WindowTest;
 
 TEST_F(Pause, PaintsAndKeepsEverythingElseForAfterwardsInOrder) {
     showMain(m_window);

@@ -43,7 +43,6 @@ class FileDialogs : public WindowTest {
         tapKey("Return");
     }
 
-    RecordingWindow m_window{"", m_log};
     std::unique_ptr<Shell> m_shell = makeSystemShell();
     std::unique_ptr<MainLoop::Subscription> m_steps;
     fs::path m_before;

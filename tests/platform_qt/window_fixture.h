@@ -34,11 +34,16 @@ class WindowTest : public ::testing::Test {
     static bool shown(const RecordingWindow& window) {
         return runUntil([&] { return window.paints > 0; });
     }
+    /// Takes out of the log what does not say this.
+    void keep(const std::string& word) {
+        std::erase_if(m_log, [&](const std::string& entry) { return entry.find(word) == std::string::npos; });
+    }
     bool logged(const std::string& entry) {
         return runUntil([&] { return std::find(m_log.begin(), m_log.end(), entry) != m_log.end(); });
     }
 
     Log m_log;
+    RecordingWindow m_window{"", m_log};
 };
 
 } // namespace tarnix::testing

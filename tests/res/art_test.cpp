@@ -27,35 +27,26 @@ struct Face {
     std::span<const ControlRow> controls;
 };
 
-const std::vector<Face>& faces() {
-    static const std::vector<Face> all{
-        {dialog::notice::background, dialog::wideSize, dialog::notice::controls},
-        {dialog::reset::profileReset.background, dialog::wideSize, dialog::reset::controls},
-        {dialog::reset::factoryReset.background, dialog::wideSize, dialog::reset::controls},
-        {dialog::keymap::background, dialog::wideSize, dialog::keymap::controls},
-        {dialog::profile::background, dialog::profile::size, dialog::profile::controls},
-        {dialog::shortcut::background, dialog::shortcut::size, dialog::shortcut::controls},
-        {dialog::launch::background, dialog::launch::size, dialog::launch::controls},
-        {manager::managerBackground, manager::managerSize, manager::managerControls},
-        {manager::addSet.background, manager::companionSize, manager::setNameControls},
-        {manager::deleteSet.background, manager::companionSize, manager::setNameControls},
-        {manager::note.background, manager::companionSize, manager::noticeControls},
-        {manager::attention.background, manager::companionSize, manager::noticeControls},
-        {mainBackground, mainWindowSize, commonControls},
-        {pageBandImage(0), pageBand.size(), keyCaps},
-        {pageBandImage(1), picture::widePageBand, macroPageControls},
-        {pageBandImage(2), picture::widePageBand, gKeyFields},
-        {pageBandImage(3), pageBand.size(), lightingFields},
-    };
-    return all;
-}
-
-std::vector<ControlRow> allControls() {
-    std::vector<ControlRow> rows(areaMarkers.begin(), areaMarkers.end());
-    for (const Face& face : faces())
-        rows.insert(rows.end(), face.controls.begin(), face.controls.end());
-    return rows;
-}
+const Face faces[] = {
+    {dialog::notice::background, dialog::wideSize, dialog::notice::controls},
+    {dialog::reset::profileReset.background, dialog::wideSize, dialog::reset::controls},
+    {dialog::reset::factoryReset.background, dialog::wideSize, dialog::reset::controls},
+    {dialog::keymap::background, dialog::wideSize, dialog::keymap::controls},
+    {dialog::profile::background, dialog::profile::size, dialog::profile::controls},
+    {dialog::shortcut::background, dialog::shortcut::size, dialog::shortcut::controls},
+    {dialog::launch::background, dialog::launch::size, dialog::launch::controls},
+    {manager::managerBackground, manager::managerSize, manager::managerControls},
+    {manager::addSet.background, manager::companionSize, manager::setNameControls},
+    {manager::deleteSet.background, manager::companionSize, manager::setNameControls},
+    {manager::note.background, manager::companionSize, manager::noticeControls},
+    {manager::attention.background, manager::companionSize, manager::noticeControls},
+    {mainBackground, mainWindowSize, commonControls},
+    {pageBandImage(0), pageBand.size(), keyCaps},
+    {pageBandImage(1), picture::widePageBand, macroPageControls},
+    {pageBandImage(2), picture::widePageBand, gKeyFields},
+    {pageBandImage(3), pageBand.size(), lightingFields},
+    {mainBackground, mainWindowSize, areaMarkers},
+};
 
 int framesOf(ControlKind kind) {
     if (kind == ControlKind::Check) return picture::checkFrames;
@@ -77,36 +68,34 @@ int differentPixels(const Image& image, const Rect& a, const Rect& b) {
 }
 
 TEST(Art, EveryControlHasFramesOfTheRightSizeThatCanBeToldApart) {
-    for (const ControlRow& row : allControls()) {
-        const bool region = row.kind == ControlKind::Region;
-        const unsigned id = region ? static_cast<unsigned>(row.region.bitmap) : row.image;
-        if (id == 0) continue;
-        const Image& image = pictureOf(region ? ResourceType::Bitmap : ResourceType::Png, id);
-        const Size size = region ? Size{row.region.frameWidth, row.region.frameHeight} : row.rect.size();
-        const Size strip{size.width * framesOf(row.kind), size.height};
-        const auto [width, height] = image.size();
-        EXPECT_TRUE(region ? width >= strip.width && height >= strip.height : image.size() == strip) << id;
-        const Rect first = Rect::at(0, 0, size.width, size.height);
-        const Rect second = first.moved(size.width, 0);
-        for (const auto& [a, b] : {std::pair(first, second), {second, second.moved(size.width, 0)}})
-            EXPECT_GT(differentPixels(image, a, b), size.width * size.height / 10) << row.id << " " << id;
-    }
+    for (const Face& face : faces)
+        for (const ControlRow& row : face.controls) {
+            const bool region = row.kind == ControlKind::Region;
+            const unsigned id = region ? static_cast<unsigned>(row.region.bitmap) : row.image;
+            if (id == 0) continue;
+            const Image& image = pictureOf(region ? ResourceType::Bitmap : ResourceType::Png, id);
+            const Size size = region ? Size{row.region.frameWidth, row.region.frameHeight} : row.rect.size();
+            const Size strip{size.width * framesOf(row.kind), size.height};
+            const auto [width, height] = image.size();
+            EXPECT_TRUE(region ? width >= strip.width && height >= strip.height : image.size() == strip)
+                << id;
+            const Rect first = Rect::at(0, 0, size.width, size.height);
+            const Rect second = first.moved(size.width, 0);
+            for (const auto& [a, b] : {std::pair(first, second), {second, second.moved(size.width, 0)}})
+                EXPECT_GT(differentPixels(image, a, b), size.width * size.height / 10) << row.id << " " << id;
+        }
 }
 
-TEST(Art, BackgroundsAndIconsHaveTheRightSize) {
-    for (const Face& face : faces())
-        EXPECT_EQ(pictureOf(ResourceType::Bitmap, face.background).size(), face.size) << face.background;
+TEST(Art, BackgroundsAndIconsHaveTheirSizesAndYellowBeyondRoundedCornersAloneInOutlines) {
     EXPECT_EQ(pictureOf(ResourceType::Bitmap, manager::managerPanel).size(),
               manager::managerPanelRect.size());
     EXPECT_EQ(pictureOf(ResourceType::Icon, picture::programIcon).size(), picture::programIconSize);
-}
-
-TEST(Art, YellowStandsBeyondRoundedCornersAloneAndOnlyInOutlines) {
     const std::set<unsigned> shaped{mainBackground, dialog::shortcut::background, dialog::launch::background};
     constexpr int corner = 12;
-    for (const Face& face : faces()) {
+    for (const Face& face : faces) {
         const Image& image = pictureOf(ResourceType::Bitmap, face.background);
         const auto [width, height] = face.size;
+        ASSERT_EQ(image.size(), face.size) << face.background;
         int elsewhere = 0;
         for (int y = 0; y < height; ++y)
             for (int x = 0; x < width; ++x)
@@ -119,7 +108,7 @@ TEST(Art, YellowStandsBeyondRoundedCornersAloneAndOnlyInOutlines) {
 }
 
 TEST(Art, RegionButtonsLeaveOutWhatLooksLikeTheirGround) {
-    for (const Face& face : faces())
+    for (const Face& face : faces)
         for (const ControlRow& row : face.controls) {
             // The profile form copies parts of the notices' strips, which have another key colour there.
             if (row.kind != ControlKind::Region || face.background == dialog::profile::background) continue;

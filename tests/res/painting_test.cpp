@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
-#include <iostream>
 #include <map>
 
 #include "../ui/main_window_bench.h"
@@ -99,24 +98,23 @@ void expectTidy(CDlgBase& window) {
     });
 }
 
-class Painting : public ::testing::Test {
+class Painting : public ::testing::Test, public MainWindowBench {
   protected:
     Painting() {
-        bench.window->Create();
-        MacroSet& set = bench.macros.sets.at(0);
+        window->Create();
+        MacroSet& set = macros.sets.at(0);
         for (int i = 0; i < 20; ++i)
             AddMacroKey(set, longText);
         for (int i = 0; i < 60; ++i)
             AppendAction(set.keys[0], i % 2 ? MacroAction::delay(9999999) : MacroAction::key(0x0D, true));
-        SaveManagerLibrary(bench.macros, bench.files, "/kbd/");
+        SaveManagerLibrary(macros, files, "/kbd/");
     }
     template <class Popup, class... Args>
     std::unique_ptr<CListPopup> list(Args&&... args) {
         auto popup = std::make_unique<Popup>(std::forward<Args>(args)...);
-        EXPECT_FALSE(popup->Create(*bench.window, Rect::at(50, 50, 169, 26), 0x7000, 0));
+        EXPECT_FALSE(popup->Create(*window, Rect::at(50, 50, 169, 26), 0x7000, 0));
         return popup;
     }
-    MainWindowBench bench;
 };
 
 TEST(Pictures, EveryWordInThemStandsOutFromItsGround) {
@@ -125,63 +123,56 @@ TEST(Pictures, EveryWordInThemStandsOutFromItsGround) {
     unsigned id;
     Rect area;
     int lines = 0;
-    std::pair<double, std::string> lowest{21, ""};
     for (int type; table >> type >> id >> area.left >> area.top >> area.right >> area.bottom; ++lines) {
         std::getline(table, words);
         const Image* image = resources().find(static_cast<ResourceType>(type), id);
-        const double found = contrastIn(*image, area.inset(-1));
-        EXPECT_GE(found, enough) << id << ":" << words;
-        lowest = std::min(lowest, {found, words});
+        EXPECT_GE(contrastIn(*image, area.inset(-1)), enough) << id << ":" << words;
     }
     EXPECT_GT(lines, 500);
-    std::cout << "lowest contrast of " << lines << " words: " << lowest.first << lowest.second << '\n';
 }
 
 TEST_F(Painting, KeepsToEveryRectangleAndIsReadable) {
     CKeyMapSettingDlg keyMap({2201, "F1", 0xC0, 0xC0}, nullptr);
     CShortcutDlg shortcut(nullptr);
-    CQuickLaunchDlg launch(bench.shell, nullptr);
-    CEditProfileDlg profile(bench.shell);
+    CQuickLaunchDlg launch(shell, nullptr);
+    CEditProfileDlg profile(shell);
     CFirmwareResetDlg reset(dialog::reset::profileReset);
     CAttentionDlg notice(longText, longText);
-    CMacroManagerDlg manager(nullptr, bench.files, "/kbd/", 1);
-    CMacroManagerAddDlg add(*bench.window);
-    CMacroManagerNoteDlg note(*bench.window);
+    CMacroManagerDlg manager(nullptr, files, "/kbd/", 1);
+    CMacroManagerAddDlg add(*window);
+    CMacroManagerNoteDlg note(*window);
     for (CDlgBase* dialog : std::initializer_list<CDlgBase*>{&keyMap, &shortcut, &launch, &profile, &reset,
                                                              &notice, &manager, &add, &note}) {
         ASSERT_TRUE(dialog->Create());
         expectTidy(*dialog);
     }
     for (const unsigned tab : {id::macroPageTab, id::gKeyPageTab, id::lightingPageTab, id::keyPageTab}) {
-        clickAt(*bench.window, bench.window->GetControl(tab)->GetRect().topLeft());
-        expectTidy(*bench.window);
+        clickAt(*window, window->GetControl(tab)->GetRect().topLeft());
+        expectTidy(*window);
     }
-    for (const auto& popup : {list<CComboPopup>(), list<CMacroSetListPopup>(bench.macros)})
+    for (const auto& popup : {list<CComboPopup>(), list<CMacroSetListPopup>(macros)})
         expectInside(*popup);
     COSDDialog display(longText);
     expectInside(display);
 }
 
-TEST_F(Painting, NotesTheContrastOfTextsWhoseColoursAreFixed) {
-    const auto note = [](const std::string& name, Window& window, const Rect& area) {
-        const double found = contrastIn(faceOf(window)->image(), area);
-        EXPECT_GT(found, 1.5) << name << " is not there";
-        std::cout << name << ": " << found << '\n';
+TEST_F(Painting, TextsWhoseColoursAreFixedAreThere) {
+    const auto expectText = [](Window& shown, const Rect& area) {
+        EXPECT_GT(contrastIn(faceOf(shown)->image(), area), 1.5) << area.top;
     };
     const auto functions = list<CDPIPopup>();
     const auto brightness = list<CLightBrightnessPopup>();
-    for (const auto& [popup, text] :
-         {std::pair(functions.get(), "white"), std::pair(brightness.get(), "black")}) {
+    for (CListPopup* popup : {functions.get(), brightness.get()}) {
         popup->OnMouseMove(0, popup->rows()[1].rect.topLeft());
-        note(std::string("popup row, ") + text, *popup, popup->rows()[0].rect);
-        note(std::string("highlighted popup row, ") + text, *popup, popup->rows()[1].rect);
+        for (const std::size_t row : {0, 1})
+            expectText(*popup, popup->rows()[row].rect);
     }
-    CMacroManagerDlg manager(nullptr, bench.files, "/kbd/", 1);
+    CMacroManagerDlg manager(nullptr, files, "/kbd/", 1);
     manager.Create();
-    note("selected list row", manager, Rect::at(27, 98, 143, 20));
-    note("list row", manager, Rect::at(27, 118, 143, 20));
+    expectText(manager, Rect::at(27, 98, 143, 20));
+    expectText(manager, Rect::at(27, 118, 143, 20));
     COSDDialog display("Current Profile:1");
-    note("on-screen display", display, display.clientRect());
+    expectText(display, display.clientRect());
 }
 
 } // namespace

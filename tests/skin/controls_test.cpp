@@ -15,12 +15,9 @@ constexpr Point bottomEdge{40, 46};
 /// Mouse input as letters: m moves inside, o outside; d and u press and release inside, x and y outside.
 void feed(CControlBase& control, std::string_view input) {
     for (char letter : input) {
-        if (letter == 'm') control.OnMouseMove(0, inside);
-        if (letter == 'o') control.OnMouseMove(0, rightEdge);
-        if (letter == 'd') control.OnLButtonDown(0, inside);
-        if (letter == 'x') control.OnLButtonDown(0, bottomEdge);
-        if (letter == 'u') control.OnLButtonUp(0, inside);
-        if (letter == 'y') control.OnLButtonUp(0, rightEdge);
+        if (letter == 'm' || letter == 'o') control.OnMouseMove(0, letter == 'm' ? inside : rightEdge);
+        if (letter == 'd' || letter == 'x') control.OnLButtonDown(0, letter == 'd' ? inside : bottomEdge);
+        if (letter == 'u' || letter == 'y') control.OnLButtonUp(0, letter == 'u' ? inside : rightEdge);
     }
 }
 

@@ -20,9 +20,6 @@ class ScrollBarTest : public SkinTest {
         ASSERT_TRUE(bar->LoadImages());
     }
     std::pair<int, int> thumb() const { return {bar->thumb().top, bar->thumb().bottom}; }
-    void press(int y) { bar->OnLButtonDown(0, {20, y}); }
-    void drag(int y) { bar->OnMouseMove(0, {20, y}); }
-    void release(int y) { bar->OnLButtonUp(0, {20, y}); }
 
     CVScrollBar* bar = nullptr;
 };
@@ -45,8 +42,8 @@ TEST_F(ScrollBarTest, ThumbStandsWhereThePositionIs) {
 TEST_F(ScrollBarTest, PressTellsThePartAndMovesNothing) {
     bar->SetScrollState(50, 10, 100);
     for (const auto& [y, part] : {std::pair{5, 6u}, {225, 7u}, {130, 0u}, {119, 8u}, {139, 9u}}) {
-        press(y);
-        release(y);
+        bar->OnLButtonDown(0, {20, y});
+        bar->OnLButtonUp(0, {20, y});
         EXPECT_EQ(dialog.take(), (Notices{{2115, part, 1}, {2115, 0, 2}})) << y;
         EXPECT_EQ(thumb().first, 120);
     }
@@ -54,21 +51,21 @@ TEST_F(ScrollBarTest, PressTellsThePartAndMovesNothing) {
 
 TEST_F(ScrollBarTest, DragTellsOnlyNewPositionsAndStopsAtTheEndsOfTheTrack) {
     bar->SetScrollState(50, 10, 100);
-    press(130);
-    dialog.take();
-    drag(131);
-    EXPECT_EQ(thumb().first, 121);
-    EXPECT_EQ(dialog.take(), Notices{}) << "half a position is no new position";
-    drag(132);
-    EXPECT_EQ(dialog.take(), (Notices{{2115, 0, 3}}));
-    EXPECT_EQ(bar->position(), 51);
-    drag(230);
-    EXPECT_EQ(thumb(), std::pair(200, 219));
-    EXPECT_EQ(bar->position(), 90);
-    drag(3);
-    EXPECT_EQ(thumb(), std::pair(20, 39));
-    drag(33);
-    release(33);
+    bar->OnLButtonDown(0, {20, 130});
+    const std::tuple<int, int, int, bool> drags[] = {// half a position is no new position
+                                                     {131, 121, 50, false},
+                                                     {132, 122, 51, true},
+                                                     {230, 200, 90, true},
+                                                     {3, 20, 0, true},
+                                                     {33, 23, 1, true}};
+    for (const auto& [y, top, position, told] : drags) {
+        dialog.take();
+        bar->OnMouseMove(0, {20, y});
+        EXPECT_EQ(thumb(), std::pair(top, top + 19));
+        EXPECT_EQ(bar->position(), position);
+        EXPECT_EQ(dialog.take(), (told ? Notices{{2115, 0, 3}} : Notices{}));
+    }
+    bar->OnLButtonUp(0, {20, 33});
     EXPECT_EQ(thumb(), std::pair(22, 41)) << "the release snaps the thumb to its position, 1";
 }
 
@@ -76,10 +73,8 @@ class ListsTest : public SkinTest {
   protected:
     void SetUp() override {
         SkinTest::SetUp();
-        for (unsigned icon : {191u, 192u, 193u}) {
-            Canvas& picture = pictures.add(ResourceType::Png, icon, {12, 12});
-            picture.fill({0, 0, 12, 12}, frameColor(static_cast<int>(icon) - 191));
-        }
+        for (int icon = 0; icon < 3; ++icon)
+            pictures.add(ResourceType::Png, 191 + icon, {12, 12}).fill({0, 0, 12, 12}, frameColor(icon));
         names = &dialog.make<CEditShowList>(0, 2109u, place, library);
         steps = &dialog.make<CImageShowList>(0, 2114u, place, library);
         ASSERT_TRUE(steps->LoadImages());

@@ -10,13 +10,9 @@ namespace {
 constexpr Message notify = 0x500;
 constexpr unsigned tag = 2078;
 
-/// A record as the owner got it, copied while it was valid.
-struct Answer {
-    Notice notice;
-    std::string text;
-    std::array<std::uint8_t, 4> bytes{};
-    bool operator==(const Answer&) const = default;
-};
+/// What came with a message: its words, and the record's text and bytes, copied while that was valid.
+using Answer = std::tuple<WParam, LParam, std::string, std::array<std::uint8_t, 4>>;
+using Answers = std::vector<Answer>;
 
 class PopupsTest : public SkinTest {
   protected:
@@ -25,54 +21,32 @@ class PopupsTest : public SkinTest {
         dialog.show();
         const auto note = [this](WParam w, LParam l) {
             const SelectionRecord* record = receivedSelection(l);
-            answers.push_back({{notify, w, record ? 0 : l}, record ? record->text : "", {}});
-            if (record) answers.back().bytes = record->bytes;
+            answers.push_back(record ? Answer{w, 0, record->text, record->bytes} : Answer{w, l, "", {}});
         };
         dialog.m_messages.on(notify, note);
         dialog.m_messages.on(PopupPlaces::macroSetNotify, note);
     }
-    CListPopup& open(PopupPlace place, std::unique_ptr<CListPopup> popup) {
+    template <class T, class... Args>
+    CListPopup& open(PopupPlace place, Args&&... args) {
+        auto popup = std::make_unique<T>(std::forward<Args>(args)...);
         CListPopup& opened = *popup;
         dialog.popups().open(place, std::move(popup), Rect::at(0, 0, 169, 0), notify, tag);
         dialog.take();
         return opened;
     }
-    template <class T>
-    CListPopup& open(PopupPlace place) {
-        return open(place, std::make_unique<T>());
+    static Point in(const CListPopup& popup, std::size_t row) {
+        return popup.rows()[row].rect.inset(2).topLeft();
     }
-    static Point middle(const CListPopup& popup, std::size_t row) {
-        const Rect& rect = popup.rows()[row].rect;
-        return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
-    }
-    static void choose(CListPopup& popup, std::size_t row) {
-        popup.OnMouseMove(0, middle(popup, row));
-        popup.OnLButtonDown(0, middle(popup, row));
-        popup.OnLButtonUp(0, middle(popup, row));
-    }
-    std::vector<Answer> takeAnswers() { return std::exchange(answers, {}); }
+    static void choose(CListPopup& popup, std::size_t row) { clickAt(popup, in(popup, row)); }
+    Answers takeAnswers() { return std::exchange(answers, {}); }
 
     MacroLibrary library{{{"First", {{"Fire"}, {"Water"}}}, {"Second", {}}}};
-    std::vector<Answer> answers;
+    Answers answers;
 };
 
 TEST_F(PopupsTest, ListHasTheSizeOfItsRowsAndTellsOfALossOfActivationUntilItIsLetGo) {
-    struct Case {
-        PopupPlace place;
-        std::unique_ptr<CListPopup> popup;
-        Size size;
-        Notice lost;
-    };
-    MacroLibrary empty;
-    Case cases[] = {
-        {PopupPlace::Category, std::make_unique<CComboPopup>(), {169, 134}, {1029, tag, 0}},
-        {PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(empty), {158, 10}, {1047, tag, 4}},
-        {PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library), {194, 74}, {1055, tag, 5}},
-        {PopupPlace::LightMode, std::make_unique<CLightModePopup>(), {169, 262}, {1069, tag, 9}},
-        {PopupPlace::LightSpeed, std::make_unique<CMacroSetPopup>(library, 3), {158, 22}, {1050, tag, 103}},
-    };
-    for (auto& [place, popup, size, lost] : cases) {
-        CListPopup& opened = open(place, std::move(popup));
+    constexpr PopupPlace place = PopupPlace::Mouse;
+    const auto check = [this](CListPopup& opened, Size size, const Notice& lost) {
         EXPECT_EQ(opened.clientRect().size(), size) << lost;
         opened.OnActivate(false);
         EXPECT_EQ(dialog.take(), Notices{lost});
@@ -83,7 +57,13 @@ TEST_F(PopupsTest, ListHasTheSizeOfItsRowsAndTellsOfALossOfActivationUntilItIsLe
         next.destroyWindow();
         EXPECT_TRUE(testing::runUntil([this] { return !dialog.popups().any(); })) << lost;
         dialog.take();
-    }
+    };
+    MacroLibrary empty;
+    check(open<CComboPopup>(place), {169, 134}, {1029, tag, 0});
+    check(open<CMacroLibraryPopup>(place, empty), {158, 10}, {1047, tag, 4});
+    check(open<CMacroSetListPopup>(place, library), {194, 74}, {1055, tag, 5});
+    check(open<CLightModePopup>(place), {169, 262}, {1069, tag, 9});
+    check(open<CMacroSetPopup>(place, library, 3), {158, 22}, {1050, tag, 103});
 }
 
 TEST_F(PopupsTest, EveryRowOfTheFixedListsAnswersWithItsOwnRecord) {
@@ -92,9 +72,7 @@ TEST_F(PopupsTest, EveryRowOfTheFixedListsAnswersWithItsOwnRecord) {
         ASSERT_EQ(popup.rows().size(), records.size());
         for (std::size_t row = 0; row < records.size(); ++row) {
             choose(popup, row);
-            const auto got = takeAnswers();
-            ASSERT_FALSE(got.empty());
-            EXPECT_EQ(got.back(), (Answer{{notify, tag, 0}, popup.rows()[row].text, records[row]}));
+            EXPECT_EQ(takeAnswers().back(), (Answer{tag, 0, popup.rows()[row].text, records[row]}));
         }
     };
     const auto counted = [](int rows, Bytes record, std::size_t counter) {
@@ -117,45 +95,45 @@ TEST_F(PopupsTest, CategoryListAnswersPressesAndHoversAndHasItsOwnMessages) {
     const Notice hovers[] = {{1046, tag, 1}, {1030, tag, 2}, {1040, tag, 3}, {1043, tag, 4},
                              {1033, tag, 5}, {1033, tag, 6}, {1033, tag, 7}, {1033, tag, 8}};
     for (std::size_t row = 0; row < 8; ++row) {
-        popup.OnMouseMove(0, middle(popup, row));
+        popup.OnMouseMove(0, in(popup, row));
         popup.OnMouseMove(0, popup.rows()[row].rect.topLeft());
         EXPECT_EQ(dialog.take(), Notices{hovers[row]});
     }
     const std::string chinese = "\xC4\xAC\xC8\xCF\xB9\xA6\xC4\xDC";
     choose(popup, 0);
-    EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, 0, 0}, "", {}}, {{notify, 0, 0}, "", {1}}}));
+    EXPECT_EQ(takeAnswers(), (Answers{{0, 0, "", {}}, {0, 0, "", {1}}}));
     choose(popup, 4);
-    EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, 0}, chinese, {6, 1}}}));
+    EXPECT_EQ(takeAnswers(), (Answers{{tag, 0, chinese, {6, 1}}}));
     choose(popup, 7);
-    EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, 0}, "No Function", {0, 0}}}));
+    EXPECT_EQ(takeAnswers(), (Answers{{tag, 0, "No Function", {0, 0}}}));
     dialog.take();
     for (const auto& [row, message] : {std::pair{5u, 1035u}, {6u, 1037u}}) {
         choose(popup, row);
         EXPECT_EQ(dialog.take().back(), (Notice{message, tag, 0}));
-        EXPECT_EQ(takeAnswers(), std::vector<Answer>{});
+        EXPECT_EQ(takeAnswers(), Answers{});
     }
 }
 
 TEST_F(PopupsTest, ReleaseOutsideThePressedRowSendsNothingAndTakesTheHighlightAway) {
     CListPopup& popup = open<CProfilePopup>(PopupPlace::Multimedia);
-    popup.OnMouseMove(0, middle(popup, 2));
-    popup.OnLButtonDown(0, middle(popup, 2));
-    popup.OnMouseMove(0, middle(popup, 3));
+    popup.OnMouseMove(0, in(popup, 2));
+    popup.OnLButtonDown(0, in(popup, 2));
+    popup.OnMouseMove(0, in(popup, 3));
     popup.OnMouseLeave();
     EXPECT_EQ(popup.hotRow(), 2);
-    popup.OnLButtonUp(0, middle(popup, 3));
+    popup.OnLButtonUp(0, in(popup, 3));
     EXPECT_EQ(popup.hotRow(), -1);
     EXPECT_EQ(dialog.take(), Notices{});
 }
 
 TEST_F(PopupsTest, MacroListsAnswerFromTheLibraryAsItIsNow) {
-    CListPopup& macros = open(PopupPlace::MacroLibrary, std::make_unique<CMacroLibraryPopup>(library));
+    CListPopup& macros = open<CMacroLibraryPopup>(PopupPlace::MacroLibrary, library);
     choose(macros, 1);
-    EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, 0}, "Water", {1}}}));
-    CListPopup& sets = open(PopupPlace::MacroSetList, std::make_unique<CMacroSetListPopup>(library));
+    EXPECT_EQ(takeAnswers(), (Answers{{tag, 0, "Water", {1}}}));
+    CListPopup& sets = open<CMacroSetListPopup>(PopupPlace::MacroSetList, library);
     for (const auto& [row, code] : {std::pair{0u, 2}, {1u, 3}, {3u, 0}, {4u, 1}}) { // 2 is a separator
         choose(sets, row);
-        EXPECT_EQ(takeAnswers(), (std::vector<Answer>{{{notify, tag, code}, "", {}}}));
+        EXPECT_EQ(takeAnswers(), (Answers{{tag, code, "", {}}}));
     }
 
     auto owned = std::make_unique<CMacroSetPopup>(library, 0);
@@ -165,12 +143,11 @@ TEST_F(PopupsTest, MacroListsAnswerFromTheLibraryAsItIsNow) {
     EXPECT_EQ(dialog.popups().macroSet(5), nullptr);
     choose(set, 0);
     choose(set, 3);
-    EXPECT_EQ(takeAnswers(),
-              (std::vector<Answer>{{{notify, tag, 0}, "", {}}, {{notify, tag, 0}, "Water", {0x30, 0, 1}}}));
+    EXPECT_EQ(takeAnswers(), (Answers{{tag, 0, "", {}}, {tag, 0, "Water", {0x30, 0, 1}}}));
     library.sets.clear();
     choose(set, 3);
     choose(macros, 1);
-    EXPECT_EQ(takeAnswers(), std::vector<Answer>{});
+    EXPECT_EQ(takeAnswers(), Answers{});
 }
 
 TEST_F(PopupsTest, EscapeClosesTheListsAsALossOfActivationDoesAndNothingElse) {
@@ -185,9 +162,7 @@ TEST_F(PopupsTest, EscapeClosesTheListsAsALossOfActivationDoesAndNothingElse) {
     open<CProfilePopup>(PopupPlace::Multimedia);
     EXPECT_TRUE(field.m_bOpen);
     dialog.OnKey({KeyPress::Key::Escape, true});
-    EXPECT_FALSE(field.m_bOpen);
-    EXPECT_FALSE(dialog.popups().any());
-    EXPECT_EQ(dialog.cancels, 0);
+    EXPECT_FALSE(field.m_bOpen || dialog.popups().any() || dialog.cancels);
     dialog.OnKey({KeyPress::Key::Escape, true});
     EXPECT_EQ(dialog.cancels, 1);
 }

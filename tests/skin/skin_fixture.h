@@ -11,7 +11,7 @@
 
 #include "platform/resources.h"
 #include "skin/dlg_base.h"
-#include "support/desktop_driver.h"
+#include "support/ui_scenario.h"
 
 namespace tarnix {
 

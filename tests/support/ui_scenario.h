@@ -28,6 +28,11 @@ inline void clickControl(CDlgBase& dialog, unsigned id) {
     clickAt(dialog, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
 }
 
+/// What the key hook posts for an event of a key at a time.
+inline void hookEvent(Window& window, unsigned virtualKey, unsigned time, bool released = false) {
+    window.send(0x401, virtualKey, static_cast<LParam>(time | (released ? 0x80000000U : 0U)));
+}
+
 class UiScenario {
   public:
     /// Hands work to the user-interface thread; for work that opens a dialog and comes back when that is
@@ -111,6 +116,11 @@ inline int playIn(CDlgBase& dialog, const std::function<void(UiScenario&)>& scen
     ui.end();
     player.join();
     return result;
+}
+
+/// Plays steps that need no keys of the X server and no inner dialogs.
+inline int playIn(CDlgBase& dialog, const std::function<void()>& steps) {
+    return playIn(dialog, [&](UiScenario& ui) { ui.run(steps); });
 }
 
 } // namespace tarnix

@@ -37,32 +37,26 @@ class GKeyPage : public MainWindowTest {
 };
 
 TEST_F(GKeyPage, AFunctionFromAListBesideTheMenuIsStoredUnderItsName) {
-    const struct {
-        unsigned field;
-        int slot;
-        std::size_t menuRow;
-        PopupPlace place;
-        std::size_t row;
-        const char* name;
-        KeyAssignment value;
-    } choices[] = {
+    using Choice =
+        std::tuple<unsigned, int, std::size_t, PopupPlace, std::size_t, const char*, KeyAssignment>;
+    const Choice choices[] = {
         {id::gKeyField1, 0, multimediaRow, PopupPlace::Multimedia, 7, "Stop", {2, 0xA7, 0}},
         {id::gKeyField2, 1, webRow, PopupPlace::Web, 0, "WWW Search", {2, 0xA8, 0}},
         {id::gKeyField3, 2, mouseRow, PopupPlace::Mouse, 6, "Fire", {5, 0, 0}},
         {id::gKeyField4, 3, mouseRow, PopupPlace::Mouse, 1, "Menu", {3, 2, 0}},
         {id::gKeyField5, 4, macroRow, PopupPlace::MacroLibrary, 1, "Tap", {1, 0, 0}},
     };
-    for (const auto& choice : choices) {
-        store.SetGKeyUrl(0, choice.slot, "/old");
+    for (const auto& [id, n, menuRow, place, row, name, value] : choices) {
+        store.SetGKeyUrl(0, n, "/old");
         window->link().pending().clearAll();
-        openMenu(choice.field);
-        point(PopupPlace::Category, choice.menuRow);
-        ASSERT_TRUE(isOpen(choice.place)) << choice.name;
+        openMenu(id);
+        point(PopupPlace::Category, menuRow);
+        ASSERT_TRUE(isOpen(place)) << name;
         EXPECT_TRUE(isOpen(PopupPlace::Category));
-        choose(choice.place, choice.row);
-        expectClosed(choice.field);
-        EXPECT_EQ(field(choice.field).valueText(), choice.name);
-        EXPECT_EQ(slot(choice.slot), (GKeySlot{choice.name, "", choice.value}));
+        choose(place, row);
+        expectClosed(id);
+        EXPECT_EQ(field(id).valueText(), name);
+        EXPECT_EQ(slot(n), (GKeySlot{name, "", value}));
         EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
     }
     for (int row = PendingWrites::firstMacroRow; row < PendingWrites::rowCount; ++row)

@@ -106,13 +106,11 @@ TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
 
     *store.GetGKeySlot(2, 0) = {"Roll", "", keyAssignment(FunctionType::Macro)};
     EXPECT_EQ(noticeAt(id::macroButton2), "The Macro which want to delete is using,can't delete it!");
-    const std::pair<const char*, const char*> names[] = {{"Roll",
-                                                          "The macro is existen\xA3\xAC"
-                                                          "please new it again!"},
-                                                         {"ThirteenChars",
-                                                          "The lengh of name exceed 12\xA3\xAC"
-                                                          "please new it again!"},
-                                                         {"New", ""}};
+    const std::string comma = "\xA3\xAC";
+    const std::pair<std::string, std::string> names[] = {
+        {"Roll", "The macro is existen" + comma + "please new it again!"},
+        {"ThirteenChars", "The lengh of name exceed 12" + comma + "please new it again!"},
+        {"New", ""}};
     for (const auto& [name, notice] : names) {
         addMacro(name);
         EXPECT_EQ(noticeOf([&] { window->OnKey({KeyPress::Key::Enter, true}); }), notice);

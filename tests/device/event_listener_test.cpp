@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using Bytes = std::vector<std::uint8_t>;
 
-class EventListenerTest : public testing::Test {
+class EventListenerTest : public testing::Test, protected DeviceBench {
   protected:
     HidInterface eventInterface(std::size_t length = 8) const {
         return {VirtualHid::pathOf(VirtualKeyboard::eventInterface), 0x04F3, 0x1406, 0x000A, length};
@@ -23,10 +23,6 @@ class EventListenerTest : public testing::Test {
             keyboard.emit(static_cast<std::uint8_t>(i >> 8), static_cast<std::uint8_t>(i));
     }
 
-    FakeClock clock;
-    VirtualKeyboard keyboard{clock};
-    VirtualHid hid{keyboard};
-    QueueLoop loop;
     std::vector<Bytes> heard;
     const std::thread::id mainThread = std::this_thread::get_id();
     std::unique_ptr<EventListener> listener =

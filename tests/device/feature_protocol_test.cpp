@@ -59,15 +59,14 @@ TEST_F(FeatureProtocolTest, OperationsSendTheirReportsAndTakeTheirPausesEvenWhen
 }
 
 TEST_F(FeatureProtocolTest, AMacroWithoutANameGetsOneAndGoesBackWithIt) {
-    keyboardMacro = {std::nullopt, 4, 1, {0x05, 0x01}};
-    EXPECT_TRUE(protocol.ReadGKeyMacro(1, 2));
-    EXPECT_EQ(bench.requests(), (Words{"04 1.2", "08?", "08 1.2"}));
-    EXPECT_EQ(keyboardMacro, (KeyboardMacro{"Profile2_G3", 4, 1, {0x05, 0x01}}));
-    EXPECT_EQ(bench.store.GetGKeyName(1, 2), "Profile2_G3");
-    keyboardMacro.name.reset();
-    protocol.ReadGKeyMacro(1, 2);
-    EXPECT_EQ(bench.macros.sets[0].keys.size(), 2u) << "the second time it is found";
-    bench.requests();
+    for (const char* when : {"the first time", "the second, when it is found"}) {
+        keyboardMacro = {std::nullopt, 4, 1, {0x05, 0x01}};
+        EXPECT_TRUE(protocol.ReadGKeyMacro(1, 2));
+        EXPECT_EQ(bench.requests(), (Words{"04 1.2", "08?", "08 1.2"}));
+        EXPECT_EQ(keyboardMacro, (KeyboardMacro{"Profile2_G3", 4, 1, {0x05, 0x01}}));
+        EXPECT_EQ(bench.store.GetGKeyName(1, 2), "Profile2_G3");
+        EXPECT_EQ(bench.macros.sets[0].keys.size(), 2u) << when;
+    }
     ClearMacroLibrary(bench.macros);
     keyboardMacro.name.reset();
     EXPECT_TRUE(protocol.ReadGKeyMacro(1, 2));

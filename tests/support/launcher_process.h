@@ -2,9 +2,9 @@
 // keyboard.
 #pragma once
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -17,7 +17,7 @@
 
 namespace tarnix {
 
-/// A launcher with a program beside it, both writing to one pipe.
+/// A launcher with a program beside it, both writing to one socket.
 class LauncherProcess {
   public:
     LauncherProcess(std::vector<std::string> arguments) {
@@ -26,17 +26,14 @@ class LauncherProcess {
         for (std::string& word : arguments)
             words.push_back(word.data());
         words.push_back(nullptr);
-        int in[2];
-        int out[2];
-        if (::pipe2(in, O_CLOEXEC) != 0 || ::pipe2(out, O_CLOEXEC) != 0) return;
+        int ends[2];
+        if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return;
         m_pid = ::fork();
-        if (m_pid == 0 && ::dup2(in[0], STDIN_FILENO) >= 0 && ::dup2(out[1], STDOUT_FILENO) >= 0)
+        if (m_pid == 0 && ::dup2(ends[1], STDIN_FILENO) >= 0 && ::dup2(ends[1], STDOUT_FILENO) >= 0)
             ::execv(words[0], words.data());
         if (m_pid == 0) ::_exit(127);
-        ::close(in[0]);
-        ::close(out[1]);
-        m_input = FileDescriptor(in[1]);
-        m_output = FileDescriptor(out[0]);
+        ::close(ends[1]);
+        m_socket = FileDescriptor(ends[0]);
     }
     ~LauncherProcess() {
         if (m_pid > 0) signal(SIGTERM), static_cast<void>(status());
@@ -45,17 +42,17 @@ class LauncherProcess {
     LauncherProcess& operator=(const LauncherProcess&) = delete;
 
     void command(const std::string& line) {
-        EXPECT_GT(::write(m_input.get(), (line + '\n').c_str(), line.size() + 1), 0);
+        EXPECT_GT(::write(m_socket.get(), (line + '\n').c_str(), line.size() + 1), 0);
     }
     void signal(int number) { ::kill(m_pid, number); }
 
-    /// What came since the last call, up to and with the text; the whole rest when the pipe ends first.
+    /// What came since the last call, up to and with the text; the whole rest when that ends first.
     std::string until(const std::string& text) {
         std::size_t found = 0;
-        pollfd wait{m_output.get(), POLLIN, 0};
+        pollfd wait{m_socket.get(), POLLIN, 0};
         char bytes[4096];
         while ((found = m_pending.find(text)) == std::string::npos && ::poll(&wait, 1, 20000) > 0) {
-            const ssize_t length = ::read(m_output.get(), bytes, sizeof bytes);
+            const ssize_t length = ::read(m_socket.get(), bytes, sizeof bytes);
             if (length <= 0) return std::exchange(m_pending, {});
             m_pending.append(bytes, static_cast<std::size_t>(length));
         }
@@ -72,8 +69,7 @@ class LauncherProcess {
 
   private:
     pid_t m_pid = -1;
-    FileDescriptor m_input;
-    FileDescriptor m_output;
+    FileDescriptor m_socket;
     std::string m_pending;
 };
 

@@ -84,19 +84,17 @@ TEST_F(CtlKeyboardTest, DoctorTellsNoKeyboardNoRightsInUseSilentAndWorkingApart)
 
 TEST_F(CtlKeyboardTest, WithoutRightsEveryCommandSaysSoAndDoctorNamesTheMend) {
     // The superuser may do everything, so somebody else has to try.
-    const std::string somebody =
-        ::geteuid() == 0 ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "";
-    const std::string close =
+    const std::string closed =
         "chmod -R a+rX . && cp $CTL ctl && chmod 755 $UMOCKDEV_DIR ctl && chmod -R a+rwX $UMOCKDEV_DIR/ioctl "
         "&& "
-        "chmod 000 $UMOCKDEV_DIR/dev/hidraw* && unset XDG_RUNTIME_DIR && ";
-    const Outcome outcome = withKeyboard("", close + somebody + "./ctl doctor");
+        "chmod 000 $UMOCKDEV_DIR/dev/hidraw* && unset XDG_RUNTIME_DIR && "
+        "$([ $(id -u) != 0 ] || echo setpriv --reuid=65534 --regid=65534 --clear-groups) ./ctl ";
+    const Outcome outcome = withKeyboard("", closed + "doctor");
     EXPECT_EQ(outcome.status, 4) << outcome.error;
-    EXPECT_THAT(outcome.out, HasSubstr("/dev/hidraw2  configuration, 0000 "));
-    EXPECT_THAT(outcome.out, HasSubstr(", closed to you\n"));
+    EXPECT_THAT(outcome.out, ContainsRegex("/dev/hidraw2  configuration, 0000 [^\n]*, closed to you\n"));
     EXPECT_THAT(outcome.out, HasSubstr("70-tarnix-keyboard.rules"));
     for (const char* command : {"select 2", "monitor"})
-        EXPECT_EQ(withKeyboard("", close + somebody + "./ctl " + command).status, 4) << command;
+        EXPECT_EQ(withKeyboard("", closed + command).status, 4) << command;
 }
 
 TEST_F(CtlKeyboardTest, ReadTakesProfilesAndMacrosAndLeavesTheKeyboardAsItWas) {
@@ -106,18 +104,13 @@ TEST_F(CtlKeyboardTest, ReadTakesProfilesAndMacrosAndLeavesTheKeyboardAsItWas) {
     EXPECT_THAT(outcome.out, HasSubstr("new/dir/profile3.psf: profile, accepted"));
     EXPECT_THAT(wire, Not(ContainsRegex("set 0[5-8]")));
 
-    ProfileRecord record;
     ProfileRecord expected;
-    MacroLibrary library;
     resetProfileRecord(expected, 1);
     expected.GKeys[5] = {"Combo", "", keyAssignment(FunctionType::Macro)};
-    EXPECT_FALSE(parseProfile(fileText("new/dir/profile2.psf"), record));
-    EXPECT_EQ(record, expected);
-    EXPECT_FALSE(parseMacroLibrary(fileText("new/dir/macros.mlf"), LibraryForm::Long, library));
-    ASSERT_EQ(library.sets.at(0).keys.size(), 2u);
-    EXPECT_EQ(library.sets[0].keys[0].name, "Profile1_G1");
-    EXPECT_EQ(library.sets[0].keys[1].name, "Combo");
-    EXPECT_EQ(library.sets[0].keys[1].loopCount, 3);
+    EXPECT_EQ(fileText("new/dir/profile2.psf"), formatProfile(expected));
+    EXPECT_THAT(fileText("new/dir/macros.mlf"),
+                ContainsRegex("MacroKeyNum=2\n\t*MacroKey0Name=Profile1_G1\n.*MacroKey1Name=Combo\n"
+                              "\t*MacroKey1LoopEnable=1\n\t*MacroKey1LoopNum=3\n"));
 
     writeFile("new/dir/profile1.psf", "old");
     writeFile("fail", "fail 6\n");

@@ -55,9 +55,7 @@ TEST_F(UhidPlugTest, MakesADeviceThatAnswersWithTheRequestsNumberAndTakesItAway)
     EXPECT_EQ(input.type, UHID_INPUT2);
     EXPECT_THAT(Bytes(input.u.input2.data, input.u.input2.data + input.u.input2.size), ElementsAre(5, 2, 0));
 
-    uhid_event get{};
-    get.type = UHID_GET_REPORT;
-    get.u.get_report = {41, 7, UHID_FEATURE_REPORT};
+    const uhid_event get{UHID_GET_REPORT, {.get_report = {41, 7, UHID_FEATURE_REPORT}}};
     device.held = {7, 8, 9};
     ask(get);
     const auto got = told().u.get_report_reply;
@@ -65,11 +63,8 @@ TEST_F(UhidPlugTest, MakesADeviceThatAnswersWithTheRequestsNumberAndTakesItAway)
     EXPECT_EQ(got.err, 0);
     EXPECT_THAT(Bytes(got.data, got.data + got.size), ElementsAre(7, 8, 9));
 
-    uhid_event set{};
-    set.type = UHID_SET_REPORT;
-    set.u.set_report.id = 42;
-    set.u.set_report.rtype = UHID_FEATURE_REPORT;
-    set.u.set_report.size = 0xFFFF; // more than there is room for
+    // It says that there is more than it has room for.
+    const uhid_event set{UHID_SET_REPORT, {.set_report = {42, 7, UHID_FEATURE_REPORT, 0xFFFF, {}}}};
     device.answer = {false, {}, Milliseconds(20)};
     ask(set);
     EXPECT_EQ(device.held.size(), sizeof set.u.set_report.data);

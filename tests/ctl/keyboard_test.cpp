@@ -13,25 +13,22 @@ using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::Not;
 
-const std::string seeded = "--seed-macro|2 6 Combo x3 04:00 04:80|--seed-macro|1 1 - 05:8F";
+const std::vector<std::string> seeded{"--seed-macro", "2 6 Combo x3 04:00 04:80", "--seed-macro",
+                                      "1 1 - 05:8F"};
 
 class CtlKeyboardTest : public CtlBench {
   protected:
-    /// The launcher with options, which bars separate, and a shell line that runs in the folder; its file 3
-    /// is the launcher's output.
-    std::unique_ptr<LauncherProcess> start(const std::string& options, const std::string& line) {
-        std::vector<std::string> words;
-        std::istringstream list(options);
-        for (std::string word; std::getline(list, word, '|');)
-            words.push_back(word);
+    /// The launcher with options, and a shell line that runs in the folder; its file 3 is the launcher's
+    /// output.
+    std::unique_ptr<LauncherProcess> start(std::vector<std::string> words, const std::string& line) {
         const std::string script = inFolder(line) + " 3>&1 > .out 2> .error";
         words.insert(words.end(), {"--", "/bin/sh", "-c", script});
         return std::make_unique<LauncherProcess>(words);
     }
 
     /// What went over the wire comes in `wire`.
-    Outcome withKeyboard(const std::string& options, const std::string& line) {
-        const auto launcher = start(options, line);
+    Outcome withKeyboard(std::vector<std::string> options, const std::string& line) {
+        const auto launcher = start(std::move(options), line);
         wire = launcher->rest();
         return {launcher->status(), fileText(".out"), fileText(".error")};
     }
@@ -58,11 +55,11 @@ class CtlKeyboardTest : public CtlBench {
 };
 
 TEST_F(CtlKeyboardTest, DoctorTellsNoKeyboardNoRightsInUseSilentAndWorkingApart) {
-    Outcome outcome = withKeyboard("--unplugged", "$CTL doctor");
+    Outcome outcome = withKeyboard({"--unplugged"}, "$CTL doctor");
     EXPECT_EQ(outcome.status, 3);
     EXPECT_THAT(outcome.out, HasSubstr("No keyboard is attached"));
 
-    outcome = withKeyboard("", "$CTL doctor");
+    outcome = withKeyboard({}, "$CTL doctor");
     EXPECT_EQ(outcome.status, 0) << outcome.out;
     EXPECT_THAT(outcome.out, ContainsRegex("/dev/hidraw0  keystrokes, 0[0-7]{3} [^\n]*\n"
                                            "/dev/hidraw1  events, 0[0-7]{3} [^\n]*, open to you\n"
@@ -72,12 +69,12 @@ TEST_F(CtlKeyboardTest, DoctorTellsNoKeyboardNoRightsInUseSilentAndWorkingApart)
     {
         const auto program = acquireInstanceLock("Tarnix Keyboard");
         for (const char* command : {"doctor", "select 1", "read d"})
-            EXPECT_EQ(withKeyboard("", std::string("$CTL ") + command).status, 5) << command;
+            EXPECT_EQ(withKeyboard({}, std::string("$CTL ") + command).status, 5) << command;
         EXPECT_EQ(wire, "");
     }
 
     writeFile("fail", "fail all\n");
-    outcome = withKeyboard("--commands|" + path("fail"), "$CTL doctor");
+    outcome = withKeyboard({"--commands", path("fail")}, "$CTL doctor");
     EXPECT_EQ(outcome.status, 7);
     EXPECT_THAT(outcome.out, HasSubstr("does not answer"));
 }
@@ -89,12 +86,12 @@ TEST_F(CtlKeyboardTest, WithoutRightsEveryCommandSaysSoAndDoctorNamesTheMend) {
         "&& "
         "chmod 000 $UMOCKDEV_DIR/dev/hidraw* && unset XDG_RUNTIME_DIR && "
         "$([ $(id -u) != 0 ] || echo setpriv --reuid=65534 --regid=65534 --clear-groups) ./ctl ";
-    const Outcome outcome = withKeyboard("", closed + "doctor");
+    const Outcome outcome = withKeyboard({}, closed + "doctor");
     EXPECT_EQ(outcome.status, 4) << outcome.error;
     EXPECT_THAT(outcome.out, ContainsRegex("/dev/hidraw2  configuration, 0000 [^\n]*, closed to you\n"));
     EXPECT_THAT(outcome.out, HasSubstr("70-tarnix-keyboard.rules"));
     for (const char* command : {"select 2", "monitor"})
-        EXPECT_EQ(withKeyboard("", closed + command).status, 4) << command;
+        EXPECT_EQ(withKeyboard({}, closed + command).status, 4) << command;
 }
 
 TEST_F(CtlKeyboardTest, ReadTakesProfilesAndMacrosAndLeavesTheKeyboardAsItWas) {
@@ -114,16 +111,16 @@ TEST_F(CtlKeyboardTest, ReadTakesProfilesAndMacrosAndLeavesTheKeyboardAsItWas) {
 
     writeFile("new/dir/profile1.psf", "old");
     writeFile("fail", "fail 6\n");
-    EXPECT_EQ(withKeyboard("--commands|" + path("fail"), "$CTL read --force new/dir").status, 7);
+    EXPECT_EQ(withKeyboard({"--commands", path("fail")}, "$CTL read --force new/dir").status, 7);
     EXPECT_EQ(fileText("new/dir/profile1.psf"), "old") << "a failed transfer writes nothing";
-    EXPECT_EQ(withKeyboard("", "$CTL read --force new/dir").status, 0);
+    EXPECT_EQ(withKeyboard({}, "$CTL read --force new/dir").status, 0);
     EXPECT_THAT(fileText("new/dir/profile1.psf"), HasSubstr("Key0Name=CTRL+1\n"));
-    EXPECT_EQ(withKeyboard("", "$CTL read /dev/null/dir").status, 1);
+    EXPECT_EQ(withKeyboard({}, "$CTL read /dev/null/dir").status, 1);
 }
 
 TEST_F(CtlKeyboardTest, WriteSendsAProfileInOrderWithPausesAndKeepsTheActiveProfile) {
     writeSample();
-    const auto launcher = start("", "$CTL select 2; $CTL write p.psf --profile 3 --macros l.mlf");
+    const auto launcher = start({}, "$CTL select 2; $CTL write p.psf --profile 3 --macros l.mlf");
     wire = launcher->rest();
     EXPECT_EQ(launcher->status(), 0) << fileText(".error");
     EXPECT_THAT(fileText(".error"), HasSubstr("[1/9] lighting\n[2/9] keys\n[3/9] macro of G1\n"));
@@ -144,7 +141,7 @@ TEST_F(CtlKeyboardTest, WriteSendsAProfileInOrderWithPausesAndKeepsTheActiveProf
 
     for (const char* refused : {"p.psf --profile 1 --macros less.mlf", "l.mlf --profile 1",
                                 "none.psf --profile 1", "p.psf --profile 1 --macros p.psf"}) {
-        EXPECT_EQ(withKeyboard("", std::string("$CTL write ") + refused).status, 6) << refused;
+        EXPECT_EQ(withKeyboard({}, std::string("$CTL write ") + refused).status, 6) << refused;
         EXPECT_EQ(wire, "") << refused;
     }
     EXPECT_EQ(ctl("write p.psf --profile 1").status, 3) << "no keyboard";
@@ -152,7 +149,7 @@ TEST_F(CtlKeyboardTest, WriteSendsAProfileInOrderWithPausesAndKeepsTheActiveProf
 
 TEST_F(CtlKeyboardTest, AnUnplugOrARefusalInTheMiddleEndsAWriteAsFailed) {
     writeSample();
-    const auto launcher = start("", "$CTL write p.psf --profile 1 --macros l.mlf");
+    const auto launcher = start({}, "$CTL write p.psf --profile 1 --macros l.mlf");
     launcher->until("set 08 macro profile 1 G1");
     launcher->command("unplug");
     launcher->until("ok unplug");
@@ -161,13 +158,13 @@ TEST_F(CtlKeyboardTest, AnUnplugOrARefusalInTheMiddleEndsAWriteAsFailed) {
     EXPECT_THAT(fileText(".error"), HasSubstr("tarnixctl: the keyboard does not take part in: macro of G"));
 
     writeFile("fail", "fail 2\n");
-    EXPECT_EQ(withKeyboard("--commands|" + path("fail"), "$CTL select 2").status, 7);
-    EXPECT_THAT(withKeyboard("", "$CTL write p.psf --profile 1").error,
+    EXPECT_EQ(withKeyboard({"--commands", path("fail")}, "$CTL select 2").status, 7);
+    EXPECT_THAT(withKeyboard({}, "$CTL write p.psf --profile 1").error,
                 HasSubstr("G6 plays the macro M5, which stays"));
 }
 
 TEST_F(CtlKeyboardTest, MonitorDecodesEventsOverAReplugUntilItIsInterrupted) {
-    const auto launcher = start("", "$CTL monitor >&3 2>&3 & echo $! > pid; wait $!");
+    const auto launcher = start({}, "$CTL monitor >&3 2>&3 & echo $! > pid; wait $!");
     const std::pair<std::string, std::string> steps[] = {
         {"# begin", "listening to /dev/hidraw1\n"}, {"emit 5 2", " 05 02 00 00 00 00 00  profile 2\n"},
         {"emit 6 3", "  light mode Flow Right\n"},  {"emit 7 99", "  light brightness 99\n"},

@@ -66,7 +66,11 @@ TEST_F(RoutingTest, ClicksGoToTheLastVisibleControlUnderThePointerThatMayBeDropp
 }
 
 TEST_F(RoutingTest, OnlyWhatChangedIsPaintedAndATabPaintsTheWholeFace) {
-    showDialog();
+    testing::movePointer({0, 0});
+    dialog.show();
+    ASSERT_TRUE(testing::runUntil([this] { return !dialog.paints.empty(); }));
+    testing::settle();
+    dialog.takePaints();
     dialog.OnMouseMove(0, onLeft);
     EXPECT_EQ(repainted(), left);
     dialog.OnMouseMove(0, onRight);

@@ -56,12 +56,4 @@ void SkinTest::SetUp() {
     dialog.take();
 }
 
-void SkinTest::showDialog() {
-    testing::movePointer({0, 0});
-    dialog.show();
-    ASSERT_TRUE(testing::runUntil([this] { return !dialog.paints.empty(); }));
-    testing::settle();
-    dialog.takePaints();
-}
-
 } // namespace tarnix

@@ -83,8 +83,6 @@ int shownFrame(CControlBase& control);
 class SkinTest : public ::testing::Test {
   protected:
     void SetUp() override;
-    /// Shows the dialog, the pointer outside it, and waits until it has been painted.
-    void showDialog();
 
     TestResources pictures;
     TestDialog dialog;

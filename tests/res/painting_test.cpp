@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <iostream>
 #include <map>
 
 #include "../ui/main_window_bench.h"
@@ -156,23 +157,25 @@ TEST_F(Painting, KeepsToEveryRectangleAndIsReadable) {
     expectInside(display);
 }
 
-TEST_F(Painting, TextsWhoseColoursAreFixedAreThere) {
-    const auto expectText = [](Window& shown, const Rect& area) {
-        EXPECT_GT(contrastIn(faceOf(shown)->image(), area), 1.5) << area.top;
+TEST_F(Painting, ListsTheContrastOfTextsWhoseColoursAreFixed) {
+    const auto note = [](const std::string& name, Window& shown, const Rect& area) {
+        const double found = contrastIn(faceOf(shown)->image(), area);
+        EXPECT_GT(found, 1.5) << name << " is not there";
+        std::cout << name << ": " << found << '\n';
     };
     const auto functions = list<CDPIPopup>();
     const auto brightness = list<CLightBrightnessPopup>();
-    for (CListPopup* popup : {functions.get(), brightness.get()}) {
+    for (const auto& [popup, text] : {std::pair(functions.get(), "white"), {brightness.get(), "black"}}) {
         popup->OnMouseMove(0, popup->rows()[1].rect.topLeft());
-        for (const std::size_t row : {0, 1})
-            expectText(*popup, popup->rows()[row].rect);
+        note(std::string("popup row, ") + text, *popup, popup->rows()[0].rect);
+        note(std::string("highlighted popup row, ") + text, *popup, popup->rows()[1].rect);
     }
     CMacroManagerDlg manager(nullptr, files, "/kbd/", 1);
     manager.Create();
-    expectText(manager, Rect::at(27, 98, 143, 20));
-    expectText(manager, Rect::at(27, 118, 143, 20));
+    note("selected list row", manager, Rect::at(27, 98, 143, 20));
+    note("list row", manager, Rect::at(27, 118, 143, 20));
     COSDDialog display("Current Profile:1");
-    expectText(display, display.clientRect());
+    note("on-screen display", display, display.clientRect());
 }
 
 } // namespace

@@ -62,6 +62,7 @@ TEST_F(MacroPage, ALoopCountOutsideItsRangeBecomesOne) {
     for (const unsigned tab : {id::keyPageTab, id::gKeyPageTab, id::lightingPageTab}) {
         window->send(id::macroPageTab, 0, NOTIFY_CLICK);
         testing::click(field);
+        testing::settle();
         window->send(tab, 0, NOTIFY_CLICK);
         testing::typeText("7");
         testing::settle();

@@ -151,7 +151,10 @@ void EditField::setText(const std::string& text) {
 
 void EditField::setVisible(bool visible) {
     if (visible) m_native->make();
-    if (m_native->widget) m_native->widget->setVisible(visible);
+    if (!m_native->widget) return;
+    // A field that is hidden with the keyboard would keep it.
+    if (!visible && m_native->widget->hasFocus()) m_native->widget->parentWindow().setFocus();
+    m_native->widget->setVisible(visible);
 }
 
 void EditField::setEnabled(bool enabled) {

@@ -10,11 +10,8 @@ constexpr Point textAt{30, 14};
 constexpr Color textColor = rgb(255, 255, 255);
 /// Around the letters: over a light desktop the half translucent ground is hardly darker than they are.
 constexpr Color edgeColor = rgb(38, 8, 46);
-constexpr Point edges[] = {{-1, -1}, {0, -1}, {1, -1}, {-1, 0}, {1, 0}, {-1, 1}, {0, 1}, {1, 1}};
-
-constexpr TextFormat textIn(Color color) {
-    return {.height = 24, .weight = 700, .color = color, .shrinks = true, .ellipsis = false};
-}
+constexpr TextFormat textFormat{
+    .height = 24, .weight = 700, .color = textColor, .shrinks = true, .ellipsis = false, .edge = edgeColor};
 
 } // namespace
 
@@ -39,10 +36,7 @@ AccessibleFace COSDDialog::accessibleFace() const {
 void COSDDialog::OnPaint(Canvas& canvas, const Rect&) {
     const Rect client = clientRect();
     canvas.fill(client, osdBackground);
-    const Rect area{textAt.x, textAt.y, client.right, client.bottom};
-    for (const Point edge : edges)
-        canvas.drawText(m_text, area.moved(edge.x, edge.y), textIn(edgeColor));
-    canvas.drawText(m_text, area, textIn(textColor));
+    canvas.drawText(m_text, {textAt.x, textAt.y, client.right, client.bottom}, textFormat);
 }
 
 } // namespace tarnix

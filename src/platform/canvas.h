@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -48,6 +49,7 @@ struct TextFormat {
     bool verticalCentred = false; ///< else flush top
     bool shrinks = false;         ///< a line that does not fit is set smaller, as long as it can be read
     bool ellipsis = true;         ///< a line that does not fit even so ends in an ellipsis
+    std::optional<Color> edge{};  ///< drawn one pixel wide round the letters
 };
 
 /// What is painted on, in the coordinates of its window or picture. All operations are clipped.

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPaintDevice>
 #include <QPainter>
+#include <QStaticText>
 #include <cmath>
 
 #include "convert.h"
@@ -38,6 +39,18 @@ class PaintedPicture : public Surface {
     QPainter m_painter;
     QtCanvas m_canvas{m_painter};
 };
+
+/// The line is laid out once; from the four corners it leaves an edge on all sides.
+void drawEdged(QPainter& painter, const FittedLine& line, QPoint corner, const TextFormat& format) {
+    QStaticText letters(line.text);
+    letters.setTextFormat(Qt::PlainText);
+    letters.prepare(painter.transform(), line.font);
+    painter.setPen(toQt(*format.edge));
+    for (const QPoint offset : {QPoint(-1, -1), QPoint(1, -1), QPoint(-1, 1), QPoint(1, 1)})
+        painter.drawStaticText(corner + offset, letters);
+    painter.setPen(toQt(format.color));
+    painter.drawStaticText(corner, letters);
+}
 
 } // namespace
 
@@ -87,10 +100,14 @@ void QtCanvas::drawText(std::string_view text, const Rect& area, const TextForma
     const int top = area.top + (format.verticalCentred ? (slack >= 0 ? slack / 2 : (slack - 1) / 2) : 0);
     const int left = area.left + (format.centred ? std::max(0, (area.width() - line.width) / 2) : 0);
     m_painter.save();
-    m_painter.setClipRect(toQt(area), Qt::IntersectClip);
+    m_painter.setClipRect(toQt(format.edge ? area.inset(-1) : area), Qt::IntersectClip);
     m_painter.setFont(line.font);
-    m_painter.setPen(toQt(format.color));
-    m_painter.drawText(QPoint(left, top + line.ascent), line.text);
+    if (format.edge) {
+        drawEdged(m_painter, line, QPoint(left, top), format);
+    } else {
+        m_painter.setPen(toQt(format.color));
+        m_painter.drawText(QPoint(left, top + line.ascent), line.text);
+    }
     m_painter.restore();
 }
 

@@ -25,11 +25,18 @@ class WindowTest : public ::testing::Test {
         movePointer({1200, 1000});
         ASSERT_TRUE(window.createWindow({.role = "Main", .taskbarButton = true}, place));
         window.show();
-        ASSERT_TRUE(runUntil([&] { return window.screenRect() == place && window.paints > 0; }));
+        ASSERT_TRUE(
+            runUntil([&] { return window.screenRect() == place && window.paints > 0 && isActive(); }));
         settle();
         m_log.clear();
     }
 
+    /// Whether the window that was told last is the active one.
+    bool isActive() const {
+        const auto tells = [](const std::string& entry) { return entry.ends_with("active"); };
+        const auto last = std::find_if(m_log.rbegin(), m_log.rend(), tells);
+        return last != m_log.rend() && !last->ends_with("inactive");
+    }
     /// On the screen, that is.
     static bool shown(const RecordingWindow& window) {
         return runUntil([&] { return window.paints > 0; });

@@ -47,7 +47,7 @@ TEST(ConfigurationFile, RefusalsNameTheLine) {
     }
 }
 
-TEST(ConfigurationFile, RefusedFileIsSetAsideBeforeTheDefaultsAreWritten) {
+TEST(ConfigurationFile, RefusedFileIsSetAsideAndTheShownProfileBecomesCurrent) {
     MemoryFiles files;
     ProfileStore store;
     const std::string broken = "[Setting]\nCurrentProfile=4\nbroken\n";
@@ -57,6 +57,11 @@ TEST(ConfigurationFile, RefusedFileIsSetAsideBeforeTheDefaultsAreWritten) {
     EXPECT_EQ(files.contents,
               (std::map<std::string, std::string>{{path, defaults}, {path + ".bak", broken}}));
     EXPECT_TRUE(LoadConfig(store, files, folder));
+
+    DisplayedProfile = 2;
+    EXPECT_TRUE(SaveCurrentProfile(store, files, folder));
+    EXPECT_EQ(std::exchange(DisplayedProfile, 0), store.currentProfile()) << "what is shown becomes current";
+    EXPECT_THAT(files.contents[path], testing::HasSubstr("=2\n"));
 }
 
 } // namespace

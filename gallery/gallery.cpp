@@ -85,7 +85,7 @@ class Gallery : public ::testing::Test {
     /// Runs the window, and the scenario in it once the window is active.
     void play(const std::function<void()>& scenario) {
         loop().post([&] {
-            bench.awaitKeyboard();
+            testing::hasKeyboard(*bench.window);
             scenario();
             bench.window->endModal(IDCANCEL);
         });

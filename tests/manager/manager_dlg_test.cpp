@@ -3,12 +3,13 @@
 #include <gmock/gmock.h>
 
 #include "macro/macro_files.h"
+#include "macro_manager/companion_dlgs.h"
 #include "macro_manager/manager_layout.h"
-#include "manager_bench.h"
 #include "skin/list_popup.h"
 #include "skin/selection.h"
 #include "skin/sent.h"
 #include "support/memory_files.h"
+#include "support/ui_scenario.h"
 
 namespace tarnix {
 namespace {
@@ -19,6 +20,14 @@ using ::testing::IsEmpty;
 
 constexpr const char* folder = "home/";
 const auto named = [](const char* name) { return ::testing::Field(&MacroSet::name, name); };
+
+MacroLibrary libraryOf(const std::string& set, const std::vector<std::string>& macros) {
+    MacroLibrary library;
+    MacroSet& added = AddMacroSet(library, set);
+    for (const std::string& name : macros)
+        AddMacroKey(added, name);
+    return library;
+}
 
 class MacroManager : public ::testing::Test {
   protected:
@@ -55,7 +64,7 @@ TEST_F(MacroManager, OpensOnTheAskedSetAndSavesOnlyOnOk) {
             clickControl(dialog, button);
         });
         EXPECT_EQ(result, button == okButton ? IDOK : IDCANCEL);
-        EXPECT_EQ(macroNames(stored(), 1).size(), button == okButton ? 0U : 1U);
+        EXPECT_EQ(stored().sets.at(1).keys.size(), button == okButton ? 0U : 1U);
     }
     AddMacroKey(library.sets[1], "c");
     store(library);
@@ -101,61 +110,79 @@ TEST_F(MacroManager, SetsAreAddedChosenAndDeletedByName) {
 TEST_F(MacroManager, RecordsTheRealKeyboardAndLetsNoKeyDoAnythingElse) {
     store(libraryOf("One", {"a"}));
     CMacroManagerDlg dialog(nullptr, files, folder, 1);
-    playIn(dialog, [&](UiScenario& ui) {
+    playIn(dialog, [&] {
         const auto steps = [&] { return dialog.library().sets[0].keys[0].usedActions(); };
-        ui.run([&] { clickControl(dialog, recordSwitch); });
-        EXPECT_TRUE(UiScenario::windowShown("CMacroManagerDlg", managerSize));
-        UiScenario::keys("Return Escape");
-        EXPECT_TRUE(ui.until([&] { return steps().size() == 4; }));
-        ui.run([&] {
-            EXPECT_THAT(steps(), ElementsAre(MacroAction::key(0x0D, false), MacroAction::key(0x0D, true),
-                                             MacroAction::key(0x1B, false), MacroAction::key(0x1B, true)));
-            clickControl(dialog, recordSwitch);
-        });
-        UiScenario::keys("Escape");
-        EXPECT_TRUE(ui.untilOver()) << "Escape closes it again";
+        EXPECT_TRUE(testing::hasKeyboard(dialog));
+        clickControl(dialog, recordSwitch);
+        testing::tapKey("Return");
+        testing::tapKey("Escape");
+        EXPECT_TRUE(testing::runUntil([&] { return steps().size() == 4; }));
+        EXPECT_THAT(steps(), ElementsAre(MacroAction::key(0x0D, false), MacroAction::key(0x0D, true),
+                                         MacroAction::key(0x1B, false), MacroAction::key(0x1B, true)));
+        clickControl(dialog, recordSwitch);
+        testing::tapKey("Escape");
+        EXPECT_TRUE(endsByItself(dialog)) << "Escape closes it again";
     });
 }
 
 TEST_F(MacroManager, OkWithAMacroResetsTheMainLibraryAndALongFileOpensEmpty) {
     MacroLibrary library = libraryOf("One", {"a"});
-    const auto openAndClick = [&](Point at) {
-        std::atomic<bool> closed = false;
-        // A click may come before the window manager has placed the window.
-        const auto user = std::async(std::launch::async, [&] {
-            while (!closed)
-                UiScenario::clickWindow("CMacroManagerDlg", at);
-        });
-        const bool answer = OpenMacroManager(nullptr, library, files, folder, 1);
-        closed = true;
+    const auto openAndClick = [&](unsigned button) {
+        bool answer = false;
+        EXPECT_TRUE(answered([&] { answer = OpenMacroManager(nullptr, library, files, folder, 1); },
+                             [&](CDlgBase& dialog) { clickControl(dialog, button); }));
         return answer;
     };
-    constexpr Point ok{540, 438};
 
     SaveMacroLibrary(library, files, folder);
-    EXPECT_TRUE(openAndClick(ok));
+    EXPECT_TRUE(openAndClick(okButton));
     EXPECT_THAT(library.sets, IsEmpty()) << "the manager saw nothing in the long form and wrote nothing back";
 
     store(libraryOf("One", {"a"}));
-    EXPECT_TRUE(openAndClick(ok));
+    EXPECT_TRUE(openAndClick(okButton));
     EXPECT_THAT(library.sets, ElementsAre(MacroSet{std::string(defaultMacroSetName), {}}));
     EXPECT_TRUE(LoadMacroLibrary(library, files, folder))
         << "the default library is on the disk in the long form";
 
-    EXPECT_FALSE(openAndClick({640, 438}));
+    EXPECT_FALSE(openAndClick(cancelButton));
     EXPECT_EQ(library.sets.size(), 1U);
+}
+
+TEST_F(MacroManager, ANameIsTakenUncheckedByAnyPressButThatOfTheDeleteButton) {
+    store(libraryOf("One", {"Fire"}));
+    CMacroManagerDlg dialog(nullptr, files, folder, 1);
+    playIn(dialog, [&] {
+        const auto& list = *dialog.control<CEditShowList>(macroList);
+        const auto enterName = [&](const std::string& name) {
+            if (!list.isEditing()) clickControl(dialog, newMacroButton);
+            EXPECT_TRUE(testing::hasKeyboard(dialog));
+            testing::typeText(name);
+            EXPECT_TRUE(testing::runUntil([&] { return list.editorText() == name; }));
+        };
+        enterName("Fire");
+        clickControl(dialog, recordDelays);
+        EXPECT_FALSE(list.isEditing());
+        enterName("ThirteenChars");
+        clickControl(dialog, newMacroButton);
+        EXPECT_TRUE(list.isEditing()) << "the press commits, the release opens the field anew";
+        enterName("dropped");
+        clickControl(dialog, deleteMacroButton);
+        EXPECT_FALSE(list.isEditing());
+        const MacroLibrary left = libraryOf("One", {"Fire", "ThirteenChars"});
+        EXPECT_EQ(dialog.library(), left) << "one was deleted";
+    });
 }
 
 TEST_F(MacroManager, SaysInPicturesWhatItCannotDo) {
     CMacroManagerDlg dialog(nullptr, files, folder, 0);
-    playIn(dialog, [&](UiScenario& ui) {
-        for (const auto& [button, role] : {std::pair{newMacroButton, "CMacroManagerNoteDlg"},
-                                           {recordSwitch, "CMacroManagerNoteDlg"},
-                                           {deleteMacroButton, "CMacroManagerAttentionDlg"}}) {
-            ui.start([&dialog, control = button] { clickControl(dialog, control); });
-            EXPECT_TRUE(UiScenario::windowShown(role, companionSize)) << button;
-            UiScenario::keys("Return");
-            EXPECT_TRUE(UiScenario::windowShown("CMacroManagerDlg", managerSize)) << button;
+    playIn(dialog, [&] {
+        for (const unsigned button : {newMacroButton, recordSwitch, deleteMacroButton}) {
+            const auto press = [&] { clickControl(dialog, button); };
+            EXPECT_TRUE(answered(press, [&](CDlgBase& notice) {
+                const bool attention = dynamic_cast<CMacroManagerAttentionDlg*>(&notice);
+                EXPECT_EQ(attention, button == deleteMacroButton);
+                notice.OnKey({KeyPress::Key::Enter, true});
+            }));
         }
     });
 }
@@ -163,36 +190,40 @@ TEST_F(MacroManager, SaysInPicturesWhatItCannotDo) {
 TEST_F(MacroManager, TheListOfSetsOpensUnderItsFieldAndLeadsToTheNameDialogs) {
     store(libraryOf("One", {}));
     CMacroManagerDlg dialog(nullptr, files, folder, 0);
-    playIn(dialog, [&](UiScenario& ui) {
+    playIn(dialog, [&] {
         const auto chooseRow = [&](std::size_t row) {
-            ui.run([&] {
-                clickControl(dialog, setField);
-                auto* popup = dynamic_cast<CListPopup*>(dialog.popups().at(PopupPlace::MacroSetList));
-                ASSERT_NE(popup, nullptr);
-                const auto* field = dialog.control<CComboButton>(setField);
-                EXPECT_TRUE(field->m_bOpen);
-                EXPECT_EQ(dialog.toClient(popup->screenRect().topLeft()),
-                          (Point{field->m_rect.left, field->m_rect.bottom}));
-                clickAt(*popup, popup->rows().at(row).rect.inset(5).topLeft());
-                EXPECT_FALSE(field->m_bOpen);
-            });
+            clickControl(dialog, setField);
+            auto* popup = dynamic_cast<CListPopup*>(dialog.popups().at(PopupPlace::MacroSetList));
+            ASSERT_NE(popup, nullptr);
+            const auto* field = dialog.control<CComboButton>(setField);
+            EXPECT_TRUE(field->m_bOpen);
+            EXPECT_EQ(dialog.toClient(popup->screenRect().topLeft()),
+                      (Point{field->m_rect.left, field->m_rect.bottom}));
+            clickAt(*popup, popup->rows().at(row).rect.inset(5).topLeft());
+            EXPECT_FALSE(field->m_bOpen);
         };
-        const auto enterName = [&](const char* role, const char* name, Point button, std::size_t setsThen) {
-            EXPECT_TRUE(UiScenario::windowShown(role, companionSize));
-            UiScenario::type(name);
-            UiScenario::keys("Return"); // which takes nothing
-            EXPECT_TRUE(ui.until([&] {
-                UiScenario::clickWindow(role, button);
-                return dialog.library().sets.size() == setsThen;
-            })) << role;
+        const auto enterName = [&](std::size_t row, const std::string& name) {
+            bool entered = false;
+            const auto choose = [&] {
+                EXPECT_TRUE(testing::hasKeyboard(dialog));
+                chooseRow(row);
+                EXPECT_TRUE(testing::runUntil([&] { return entered; }));
+            };
+            EXPECT_TRUE(answered(choose, [&](CDlgBase& asking) {
+                EXPECT_TRUE(testing::hasKeyboard(asking));
+                testing::typeText(name);
+                testing::tapKey("Return"); // which takes nothing
+                testing::settle();
+                clickControl(asking, okButton);
+                entered = true;
+            }));
         };
         chooseRow(0);
-        ui.run([&] { EXPECT_EQ(dialog.selectedSet(), 1); });
-        chooseRow(2);
-        enterName("CMacroManagerAddDlg", "Two", {101, 176}, 2);
-        chooseRow(4);
-        enterName("CMacroManagerDelSetDlg", "One", {101, 176}, 1);
-        ui.run([&] { EXPECT_EQ(fieldText(dialog), "Two"); });
+        EXPECT_EQ(dialog.selectedSet(), 1);
+        enterName(2, "Two");
+        EXPECT_EQ(dialog.library().sets.size(), 2U);
+        enterName(4, "One");
+        EXPECT_EQ(fieldText(dialog), "Two");
     });
 }
 

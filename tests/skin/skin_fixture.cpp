@@ -43,9 +43,7 @@ std::unique_ptr<Surface> painted(CControlBase& control, Size size) {
 }
 
 int shownFrame(CControlBase& control) {
-    const Rect rect = control.GetRect();
-    const auto surface = painted(control);
-    const Color color = surface->image().pixel({(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
+    const Color color = painted(control)->image().pixel(centreOf(control.GetRect()));
     for (int frame = 0; frame < 7; ++frame)
         if (color == frameColor(frame)) return frame;
     return -1;

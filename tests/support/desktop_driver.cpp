@@ -10,6 +10,9 @@
 #include <QtMath>
 #include <cstdlib>
 
+#include "platform_qt/native_window.h"
+#include "platform_qt/window_widget.h"
+
 namespace tarnix::testing {
 
 namespace {
@@ -44,6 +47,11 @@ bool runUntil(const std::function<bool()>& condition, std::chrono::milliseconds 
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     return true;
+}
+
+bool hasKeyboard(const Window& window) {
+    const QWindow* native = window.native()->widget->windowHandle();
+    return runUntil([&] { return QGuiApplication::focusWindow() == native; });
 }
 
 void settle() {

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "platform/application.h"
-#include "platform/geometry.h"
+#include "platform/window.h"
 
 namespace tarnix::testing {
 
@@ -18,6 +18,8 @@ Application& application();
 /// Runs the event loop until the condition holds. False when it does not within the time.
 bool runUntil(const std::function<bool()>& condition,
               std::chrono::milliseconds atMost = std::chrono::seconds{10});
+/// Runs the event loop until keys go to the window. False when they do not in time.
+bool hasKeyboard(const Window& window);
 /// Runs the event loop until everything that was sent to the display so far has come back and is dealt with.
 void settle();
 

@@ -19,29 +19,41 @@ class MacroPage : public MainWindowTest {
         g_nMainPage = 1;
         window->send(id::macroPageTab, 0, NOTIFY_CLICK);
     }
+    static const std::string& textOf(const CDlgBase& notice) {
+        return notice.control<CStaticText>(dialog::notice::message)->m_strLabel;
+    }
     /// The text of the notice that the work shows, which is then answered.
     std::string noticeOf(const std::function<void()>& work) {
         std::string text;
         answered(work, [&text](CDlgBase& notice) {
-            text = notice.control<CStaticText>(dialog::notice::message)->m_strLabel;
+            text = textOf(notice);
             notice.OnKey({KeyPress::Key::Enter, true});
         });
         return text;
     }
-    void addMacro(const std::string& name) {
-        click(id::macroButton1);
-        awaitKeyboard();
+    /// With the first of these macros selected.
+    void addMacros(const std::vector<std::string>& names) {
+        for (const std::string& name : names)
+            AddMacroKey(set(), name);
+        list().SelectSet(0);
+        window->send(id::macroList, 0, NOTIFY_CLICK);
+    }
+    /// Types a name for a new macro into its field.
+    void enterName(const std::string& name) {
+        if (!list().isEditing()) click(id::macroButton1);
+        EXPECT_TRUE(testing::hasKeyboard(*window));
+        testing::tapKey("ctrl+a");
         testing::typeText(name);
         EXPECT_TRUE(runUntil([&] { return list().editorText() == name; }));
     }
+    bool isDisabled(unsigned control) const { return window->GetControl(control)->m_bDisabled; }
+    CImageShowList& steps() { return *window->control<CImageShowList>(id::actionList); }
     CEditShowList& list() { return *window->control<CEditShowList>(id::macroList); }
     MacroSet& set() { return macros.sets[0]; }
 };
 
 TEST_F(MacroPage, ALoopCountOutsideItsRangeBecomesOne) {
-    AddMacroKey(set(), "Tap");
-    list().SelectSet(0);
-    window->send(id::macroList, 0, NOTIFY_CLICK);
+    addMacros({"Tap"});
     const Rect place = window->screenRect();
     const Point field{place.left + loopCountFieldRect.left + 5, place.top + loopCountFieldRect.top + 11};
     testing::click(field);
@@ -78,9 +90,7 @@ TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
     EXPECT_EQ(noticeAt(save), "Please select which Macro to export!");
     EXPECT_EQ(noticeAt(id::macroButton2), "Please select which Macro to delete!");
     EXPECT_EQ(noticeAt(id::recordSwitch), "Please select the macro which to record!");
-    for (const char* name : {"Tap", "Roll"})
-        AddMacroKey(set(), name);
-    list().SelectSet(0);
+    addMacros({"Tap", "Roll"});
     list().m_nSelected = 1;
     window->send(id::macroList, 0, NOTIFY_CLICK);
     click(save);
@@ -98,32 +108,142 @@ TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
     EXPECT_EQ(set().keys[0].loopCount, 1);
     EXPECT_THAT(changes(), ElementsAre("replace " + file("MacroLibraryFile.mlf")));
 
+    *store.GetGKeySlot(2, 0) = {"Roll", "", keyAssignment(FunctionType::Macro)};
+    EXPECT_EQ(noticeAt(id::macroButton2), "The Macro which want to delete is using,can't delete it!");
+
+    EXPECT_EQ(steps().shownMacro(), 1);
+    answered([&] { window->send(msg::runMacroManager, 0, 1); },
+             [](CDlgBase& dialog) { clickControl(dialog, manager::okButton); });
+    EXPECT_EQ(steps().shownMacro(), -1) << "the manager has left a library without macros";
+}
+
+TEST_F(MacroPage, ANameIsCheckedAndTheListAloneLeavesARefusedOneForCorrection) {
+    addMacros({"Roll"});
+    const auto enter = [&] { window->OnKey({KeyPress::Key::Enter, true}); };
+    const auto elsewhere = [&] { click(id::delayCheck); };
+    const auto inList = [&] { click(id::macroList); };
+    const std::string comma = "\xA3\xAC";
+    const std::string taken = "The macro is existen" + comma + "please new it again!";
+    const std::string tooLong = "The lengh of name exceed 12" + comma + "please new it again!";
+    const struct {
+        std::string name;
+        std::function<void()> end;
+        std::string notice;
+        bool stays;
+    } cases[] = {
+        {"Roll", enter, taken, false},
+        {"ThirteenChars", enter, tooLong, false},
+        {"Enter", enter, "", false},
+        {"Roll", elsewhere, taken, false},
+        {"ThirteenChars", elsewhere, tooLong, false},
+        {"TwelveChars_", elsewhere, "", false},
+        {"", elsewhere, "", false},
+        {"Roll", inList, "The Macro is existent,please rename it!", true},
+        {"ThirteenChars", inList, "The lengh of name is exceed 12,please new it again!", true},
+        {"List", inList, "", false},
+    };
+    for (const auto& [name, end, notice, stays] : cases) {
+        enterName(name);
+        EXPECT_EQ(noticeOf(end), notice) << name;
+        EXPECT_EQ(list().isEditing() && list().editorText() == name, stays) << name;
+    }
+    const auto named = [](const char* name) { return ::testing::Field(&MacroKey::name, name); };
+    EXPECT_THAT(set().keys, ElementsAre(named("Roll"), named("Enter"), named("TwelveChars_"), named("List")));
+    EXPECT_THAT(changes(), ::testing::Each("replace " + file("MacroLibraryFile.mlf")));
+    enterName("kept");
+    click(id::macroButton2);
+    EXPECT_EQ(list().editorText(), "kept") << "a macro is deleted beside it";
+    EXPECT_EQ(set().keys.size(), 3U);
+}
+
+TEST_F(MacroPage, ANoticeThatOpensInAPressTakesItsReleaseAndTheNextClickWorks) {
+    addMacros({"Roll"});
+    const auto press = [&](Point client) {
+        EXPECT_TRUE(testing::hasKeyboard(*window));
+        testing::click(window->toScreen(Rect::at(client.x, client.y, 0, 0)).topLeft());
+    };
+    const auto placeOf = [&](unsigned control) { return window->GetControl(control)->GetRect().inset(5); };
+    const auto pressAndDismiss = [&](unsigned control) {
+        enterName("Roll");
+        bool dismissed = false;
+        const auto work = [&] {
+            press(placeOf(control).topLeft());
+            EXPECT_TRUE(runUntil([&] { return dismissed; }));
+        };
+        EXPECT_TRUE(answered(work, [&](CDlgBase& notice) {
+            EXPECT_TRUE(testing::hasKeyboard(notice));
+            testing::tapKey("Escape");
+            dismissed = endsByItself(notice);
+        }));
+        testing::settle();
+    };
+    pressAndDismiss(id::macroButton1);
+    EXPECT_FALSE(list().isEditing()) << "the button was not clicked";
+    press(centreOf(placeOf(id::macroButton1))); // elsewhere on it: no double click
+    EXPECT_TRUE(runUntil([&] { return list().isEditing(); }));
+    pressAndDismiss(id::macroList);
+    press(centreOf(placeOf(id::macroButton2)));
+    EXPECT_TRUE(runUntil([&] { return set().keys.empty(); })) << "deleted";
+}
+
+TEST_F(MacroPage, ListsScrollByWheelAndBarAsFarAsTheirRowsGo) {
+    addMacros(std::vector<std::string>(30, "M"));
+    window->OnMouseMove(0, centreOf(list().GetRect()));
+    for (const auto& [delta, first] : {std::pair{120, 0}, {-120, 1}, {-120, 2}, {120, 1}}) {
+        window->OnMouseWheel(delta, {});
+        EXPECT_EQ(list().m_nFirstRow, first);
+    }
+    using Bar = CVScrollBar;
+    const int rows = list().m_nVisibleRows;
+    const int last = 30 - rows;
+    const std::pair<unsigned, int> presses[] = {{Bar::partDown, 2},      {Bar::partBelow, 2 + rows},
+                                                {Bar::partBelow, last},  {Bar::partDown, last},
+                                                {Bar::partUp, last - 1}, {Bar::partAbove, last - 1 - rows}};
+    for (const auto& [part, first] : presses) {
+        window->send(id::macroScrollBar, part, NOTIFY_DOWN);
+        EXPECT_EQ(list().m_nFirstRow, first);
+    }
+    window->control<Bar>(id::macroScrollBar)->SetScrollState(3, rows, 30);
+    window->send(id::macroScrollBar, Bar::partThumb, NOTIFY_DOWN);
+    EXPECT_EQ(list().m_nFirstRow, last - 1 - rows);
+    window->send(id::macroScrollBar, 0, NOTIFY_DRAG);
+    EXPECT_EQ(list().m_nFirstRow, 3);
+    EXPECT_EQ(steps().m_nFirstRow, 0);
+}
+
+TEST_F(MacroPage, RecordingReplacesTheMacroWithTheOtherControlsDisabled) {
+    addMacros({"Tap"});
+    AppendAction(set().keys[0], MacroAction::key(0x5A, false));
     click(id::recordSwitch);
-    window->send(0x401, 0x41, 5);
+    EXPECT_EQ(set().keys[0].actionCount, 0U);
+    EXPECT_TRUE(isDisabled(id::macroButton1) && isDisabled(id::macroList) && isDisabled(id::actionScrollBar));
+    click(id::delayCheck);
+    for (unsigned i = 0; i < 10; ++i)
+        hookEvent(*window, 0x41 + i, 100 * i);
+    EXPECT_EQ(steps().m_nFirstRow, 19 - steps().m_nVisibleRows) << "the last action is shown";
     EXPECT_THAT(changes(), ElementsAre());
     click(id::recordSwitch);
     EXPECT_THAT(changes(), ElementsAre("replace " + file("MacroLibraryFile.mlf")));
-    EXPECT_THAT(set().keys[1].usedActions(), ElementsAre(MacroAction::key(0x41, false)));
+    EXPECT_FALSE(isDisabled(id::macroButton1) || isDisabled(id::macroList) || isDisabled(id::delayCheck));
+    EXPECT_THAT(
+        set().keys[0].usedActions().first(3),
+        ElementsAre(MacroAction::key(0x41, false), MacroAction::delay(100), MacroAction::key(0x42, false)));
+}
 
-    *store.GetGKeySlot(2, 0) = {"Roll", "", keyAssignment(FunctionType::Macro)};
-    EXPECT_EQ(noticeAt(id::macroButton2), "The Macro which want to delete is using,can't delete it!");
-    const std::string comma = "\xA3\xAC";
-    const std::pair<std::string, std::string> names[] = {
-        {"Roll", "The macro is existen" + comma + "please new it again!"},
-        {"ThirteenChars", "The lengh of name exceed 12" + comma + "please new it again!"},
-        {"New", ""}};
-    for (const auto& [name, notice] : names) {
-        addMacro(name);
-        EXPECT_EQ(noticeOf([&] { window->OnKey({KeyPress::Key::Enter, true}); }), notice);
-    }
-    EXPECT_EQ(set().keys.size(), 3U);
-    EXPECT_THAT(changes(), ElementsAre("replace " + file("MacroLibraryFile.mlf")));
-
-    auto& actions = *window->control<CImageShowList>(id::actionList);
-    EXPECT_EQ(actions.shownMacro(), 1);
-    answered([&] { window->send(msg::runMacroManager, 0, 1); },
-             [](CDlgBase& dialog) { clickControl(dialog, manager::okButton); });
-    EXPECT_EQ(actions.shownMacro(), -1) << "the manager has left a library without macros";
+TEST_F(MacroPage, AFullMacroEndsItsRecordingBeforeTheNotice) {
+    addMacros({"Tap"});
+    click(id::recordSwitch);
+    for (unsigned i = 0; i < 100; ++i)
+        hookEvent(*window, 0x41 + i % 2, i);
+    EXPECT_TRUE(answered([&] { hookEvent(*window, 0x5A, 1000); },
+                         [&](CDlgBase& notice) {
+                             EXPECT_EQ(textOf(notice), "The number of action if full!");
+                             EXPECT_FALSE(isDisabled(id::macroButton1));
+                             EXPECT_THAT(changes(), ElementsAre("replace " + file("MacroLibraryFile.mlf")));
+                             notice.OnKey({KeyPress::Key::Enter, true});
+                         }));
+    EXPECT_EQ(noticeOf([&] { hookEvent(*window, 0x5B, 1001); }), "") << "a straggler brings no second notice";
+    EXPECT_EQ(set().keys[0].actionCount, 100U);
 }
 
 } // namespace

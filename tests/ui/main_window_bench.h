@@ -4,14 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "skin/list_popup.h"
 #include "skin/tab_control.h"
-#include "support/desktop_driver.h"
 #include "support/fake_clock.h"
 #include "support/memory_files.h"
 #include "support/prepared_shell.h"
@@ -59,15 +57,11 @@ class MainWindowBench {
 
     /// Shows the window and waits until it is active; the journal is empty then.
     void open();
-    /// Waits until keys reach the window, which has just been shown.
-    void awaitKeyboard();
     /// What the journal holds but for reading; it is empty afterwards.
     Journal changes();
 
     void click(unsigned control) { clickControl(*window, control); }
-    /// Does work that runs a dialog, and has that answered once it is there. True when there was one.
-    bool answered(const std::function<void()>& work, const std::function<void(CDlgBase&)>& answer);
-    /// The same with a click that runs it and another one that answers it.
+    /// Clicks a control, which runs a dialog, and another one in that. True when there was one.
     bool clickAndAnswer(unsigned control, unsigned inDialog);
     CListPopup& list(PopupPlace place);
     bool isOpen(PopupPlace place) const { return window->popups().at(place) != nullptr; }
@@ -78,12 +72,6 @@ class MainWindowBench {
     const CKeyboardButton& cap(unsigned id) const { return *window->control<CKeyboardButton>(id); }
 
     static std::string file(const std::string& name) { return "/kbd/config\\" + name; }
-
-  private:
-    void answerNext(const std::function<void(CDlgBase&)>& answer);
-
-    bool m_hearsKeys = false;
-    std::unique_ptr<MainLoop::Subscription> m_nextLook;
 };
 
 /// Tests of the window as it is after its start.

@@ -46,7 +46,7 @@ TEST_F(MainWindow, OnlyAClickOnTheLogoOpensItsLinkAndTheEndIsTheFarewellAndTheEn
     window->send(id::logoLink, 0, NOTIFY_CLICK);
     EXPECT_EQ(shell.opened, Journal{"https://www.tarnix.example/"});
     window->destroyWindow();
-    EXPECT_THAT(files.log, ::testing::ElementsAre("set 05 03 07", "tray removed"));
+    EXPECT_THAT(files.log, ::testing::ElementsAre("set 05 active profile: program ends", "tray removed"));
 }
 
 } // namespace

@@ -19,21 +19,20 @@ Journal operator+(Journal left, const Journal& right) {
 
 class ProfileCommands : public MainWindowTest {
   protected:
-    /// Files without the configuration's folder, reports as far as they say what they are and of which
-    /// profile and slot.
+    /// Files without the configuration's folder, reports as far as they say of which profile they are.
     Journal headers() {
         Journal all = changes();
-        for (std::string& line : all)
-            if (line.starts_with("set"))
-                line = line.substr(0, 15);
-            else if (const auto folder = line.find(file("")); folder != line.npos)
+        for (std::string& line : all) {
+            if (!line.starts_with("set 05")) line = line.substr(0, line.find(": "));
+            if (const auto folder = line.find(file("")); folder != line.npos)
                 line.erase(folder, file("").size());
+        }
         return all;
     }
     void remapF1() { window->send(msg::keyCodeChosen, 2201, 62); }
 
     PendingWrites& pending = window->link().pending();
-    const Journal always = Journal{"set 05 03 00", "replace config.ini"} + profileFiles;
+    const Journal always = Journal{"set 05 active profile: 1", "replace config.ini"} + profileFiles;
 };
 
 TEST_F(ProfileCommands, ApplySendsBeforeItSavesAndSavesAChangedLibraryOnceAndWhatTheDiskRefusedAgain) {
@@ -42,7 +41,8 @@ TEST_F(ProfileCommands, ApplySendsBeforeItSavesAndSavesAChangedLibraryOnceAndWha
     pending.mark(PendingWrites::lightingRow, 2);
     pending.m_bMacroLibraryChanged = true;
     click(id::applyButton);
-    EXPECT_EQ(headers(), Journal({"set 07 08 02 00", "set 06 B8 00 00"}) + always + library);
+    EXPECT_EQ(headers(),
+              Journal({"set 07 lighting profile 3", "set 06 key codes profile 1"}) + always + library);
     for (int failing = 1; failing <= 8; ++failing) {
         pending.m_bMacroLibraryChanged |= failing < 8;
         files.failWriteNumber = failing % 8; // the last one fails nothing
@@ -67,8 +67,8 @@ TEST_F(ProfileCommands, ResetWritesOneProfileAtOnceAndKeepsTheSixthMacroPending)
     EXPECT_TRUE(cap(2201).m_bRemapped);
 
     clickAndAnswer(id::resetButton, dialog::okButton);
-    EXPECT_THAT(headers(),
-                ElementsAre("replace default1.psf", "set 07 08 01 00", "set 06 B8 01 00", "set 05 03 01"));
+    EXPECT_THAT(headers(), ElementsAre("replace default1.psf", "set 07 lighting profile 2",
+                                       "set 06 key codes profile 2", "set 05 active profile: 2"));
     for (unsigned key = id::firstKeyCap; key < id::lastKeyCap; ++key) // the last one shares a key's place
         EXPECT_FALSE(cap(key).m_bRemapped) << key;
     for (int row = 0; row < PendingWrites::rowCount; ++row)
@@ -84,10 +84,12 @@ TEST_F(ProfileCommands, RestoreResetsTheKeyboardsProfilesTheConfigurationAndTheF
     remapF1();
     clickAndAnswer(id::restoreButton, dialog::okButton);
     Journal expected{"replace config.ini"};
-    for (const std::string n : {"0", "1", "2"})
-        expected = expected + Journal{"replace default" + n + ".psf", "set 07 08 0" + n + " 00",
-                                      "set 06 B8 0" + n + " 00"};
-    EXPECT_EQ(headers(), expected + Journal({"set 05 03 00", "replace MacroLibraryFile.mlf"}));
+    for (int n = 0; n < 3; ++n) {
+        const std::string profile = " profile " + std::to_string(n + 1);
+        expected =
+            expected + Journal{profileFiles[n], "set 07 lighting" + profile, "set 06 key codes" + profile};
+    }
+    EXPECT_EQ(headers(), expected + Journal({"set 05 active profile: 1", "replace MacroLibraryFile.mlf"}));
     EXPECT_EQ(DisplayedProfile, 0);
     EXPECT_EQ(store.settingNumber(3, settingLightMode), 9);
     EXPECT_THAT(macros.sets[0].keys, IsEmpty());

@@ -178,6 +178,10 @@ TEST_F(CtlKeyboardTest, MonitorDecodesEventsOverAReplugUntilItIsInterrupted) {
         EXPECT_THAT(seen, testing::EndsWith(answer));
     }
     EXPECT_THAT(seen, ContainsRegex(" [0-9]+\\.[0-9]{3}  05 02"));
+    for (const std::string bad : {"PLUG", "emit 5", "emit 256 0", "emit 0x 1", "profile 4", "record 1 04"}) {
+        launcher->command(bad);
+        EXPECT_THAT(launcher->until("\n"), testing::Eq("error: " + bad + "\n"));
+    }
     ::kill(std::atoi(fileText("pid").c_str()), SIGINT);
     launcher->rest();
     EXPECT_EQ(launcher->status(), 0);

@@ -6,7 +6,6 @@
 #include "macro_manager/companion_dlgs.h"
 #include "macro_manager/manager_layout.h"
 #include "skin/list_popup.h"
-#include "skin/selection.h"
 #include "skin/sent.h"
 #include "support/memory_files.h"
 #include "support/ui_scenario.h"

@@ -18,7 +18,6 @@ done
 
 for program in "$@"; do
     page=$pages/$(basename "$program").1
-    [ -f "$page" ] || fail "no page for $program"
     text=$(MANWIDTH=400 man -E UTF-8 -l -Tutf8 "$page" | col -bx)
     help=$("$program" --help)
     words=$(echo "$help" | grep -oE -e '--[a-z][a-z-]*|^  tarnixctl [a-z]+' | sed 's/.* //' | sort -u)

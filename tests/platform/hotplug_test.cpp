@@ -9,30 +9,8 @@ namespace {
 
 using testing::ElementsAre;
 
-/// A loop with one timer at a time, which rings when the test says so.
-class OneTimer final : public QueueLoop {
-  public:
-    std::unique_ptr<Subscription> after(Milliseconds time, std::function<void()> callback) override {
-        times.push_back(static_cast<int>(time.count()));
-        m_callback = std::move(callback);
-        return std::make_unique<Subscription>();
-    }
-
-    /// False when none is set.
-    bool ring() {
-        const auto callback = std::exchange(m_callback, nullptr);
-        if (callback) callback();
-        return callback != nullptr;
-    }
-
-    std::vector<int> times;
-
-  private:
-    std::function<void()> m_callback;
-};
-
 TEST(HotplugBurst, IsToldAfterAQuarterOfASecondsQuietRemovalFirstAndOneAtATime) {
-    OneTimer loop;
+    QueueLoop loop;
     std::vector<HidChange> told;
     HotplugBurst burst(loop, [&](HidChange change) {
         told.push_back(change);

@@ -1,10 +1,9 @@
 #include "platform/shell.h"
 
-#include <unistd.h>
-
 #include <filesystem>
 #include <fstream>
 
+#include "support/temp_folder.h"
 #include "window_fixture.h"
 
 namespace tarnix::testing {
@@ -16,15 +15,9 @@ class FileDialogs : public WindowTest {
   protected:
     void SetUp() override {
         showMain(m_window);
-        m_before = fs::current_path();
-        m_folder = fs::temp_directory_path() / ("tarnix-dialogs-" + std::to_string(getpid()));
-        fs::create_directories(m_folder);
-        fs::current_path(m_folder);
+        fs::current_path(m_folder.path());
     }
-    ~FileDialogs() override {
-        fs::current_path(m_before);
-        fs::remove_all(m_folder);
-    }
+    ~FileDialogs() override { fs::current_path(m_before); }
     /// What the user does once the dialog is there.
     void user(std::function<void()> does) {
         m_steps = application().mainLoop().after(std::chrono::milliseconds{400}, std::move(does));
@@ -45,8 +38,8 @@ class FileDialogs : public WindowTest {
 
     std::unique_ptr<Shell> m_shell = makeSystemShell();
     std::unique_ptr<MainLoop::Subscription> m_steps;
-    fs::path m_before;
-    fs::path m_folder;
+    fs::path m_before = fs::current_path();
+    TempFolder m_folder;
 };
 
 TEST_F(FileDialogs, ANewNameGetsTheExtensionAndTheCurrentFolderAndAnOldOneAQuestion) {

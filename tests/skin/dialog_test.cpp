@@ -1,6 +1,4 @@
 // The dialog base: routing, painting, backgrounds, outlines, keys and messages.
-#include "platform/edit_field.h"
-#include "skin/lists.h"
 #include "skin/tab_control.h"
 #include "skin_fixture.h"
 
@@ -103,20 +101,6 @@ TEST_F(RoutingTest, HiddenControlsAndThoseOutsideTheClipAreNotPainted) {
         dialog.controls().draw(surface->canvas(), clip);
         EXPECT_EQ(surface->image().pixel(onLeft) == frameColor(0), painted);
     }
-}
-
-TEST_F(RoutingTest, EscapeClosesANameFieldBeforeItCancels) {
-    MacroLibrary library{{{"Set", {}}}};
-    auto& list = dialog.make<CEditShowList>(2, 2109u, Rect::at(100, 100, 100, 100), library);
-    list.SelectSet(0);
-    list.BeginNewName();
-    const KeyPress escape{KeyPress::Key::Escape, true};
-    EXPECT_TRUE(dialog.OnKey(escape));
-    EXPECT_FALSE(list.isEditing() || dialog.cancels);
-    EXPECT_TRUE(dialog.OnKey(escape));
-    EXPECT_EQ(dialog.cancels, 1);
-    EXPECT_TRUE(dialog.OnKey({KeyPress::Key::Enter, true}));
-    EXPECT_FALSE(dialog.OnKey({KeyPress::Key::Space, true})) << "a name may hold blanks";
 }
 
 TEST(BackgroundTest, TheOutlineLeavesYellowOut) {

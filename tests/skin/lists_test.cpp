@@ -52,8 +52,8 @@ TEST_F(ScrollBarTest, PressTellsThePartAndMovesNothing) {
 TEST_F(ScrollBarTest, DragTellsOnlyNewPositionsAndStopsAtTheEndsOfTheTrack) {
     bar->SetScrollState(50, 10, 100);
     bar->OnLButtonDown(0, {20, 130});
-    const std::tuple<int, int, int, bool> drags[] = {// half a position is no new position
-                                                     {131, 121, 50, false},
+    // The first one is half a position, which is no new one.
+    const std::tuple<int, int, int, bool> drags[] = {{131, 121, 50, false},
                                                      {132, 122, 51, true},
                                                      {230, 200, 90, true},
                                                      {3, 20, 0, true},

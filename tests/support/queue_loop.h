@@ -1,4 +1,4 @@
-// A main loop without descriptors and timers.
+// A main loop without descriptors.
 #pragma once
 
 #include <chrono>
@@ -8,16 +8,27 @@
 #include <memory>
 #include <mutex>
 #include <utility>
+#include <vector>
 
 #include "platform/main_loop.h"
 
 namespace tarnix {
 
-/// A loop that runs posted work when the test says so.
+/// A loop that runs posted work, and has one timer at a time ring, when the test says so.
 class QueueLoop : public MainLoop {
   public:
     std::unique_ptr<Subscription> watch(int, std::function<void()>) override { return nullptr; }
-    std::unique_ptr<Subscription> after(Milliseconds, std::function<void()>) override { return nullptr; }
+    std::unique_ptr<Subscription> after(Milliseconds time, std::function<void()> callback) override {
+        times.push_back(static_cast<int>(time.count()));
+        m_timer = std::move(callback);
+        return std::make_unique<Subscription>();
+    }
+    /// False when no timer is set.
+    bool ring() {
+        const auto callback = std::exchange(m_timer, nullptr);
+        if (callback) callback();
+        return callback != nullptr;
+    }
     void post(std::function<void()> work) override {
         const std::lock_guard lock(m_mutex);
         m_work.push_back(std::move(work));
@@ -49,7 +60,10 @@ class QueueLoop : public MainLoop {
         }
     }
 
+    std::vector<int> times; ///< that timers were set to
+
   private:
+    std::function<void()> m_timer;
     std::mutex m_mutex;
     std::condition_variable m_posted;
     std::deque<std::function<void()>> m_work;

@@ -4,7 +4,6 @@
 
 #include "profile/numbers.h"
 #include "profile/vocabulary.h"
-#include "skin/list_popup.h"
 #include "skin/selection.h"
 #include "skin/sent.h"
 #include "support/prepared_shell.h"

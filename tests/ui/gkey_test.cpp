@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 
 #include "main_window_bench.h"
 #include "skin/selection.h"

@@ -2,7 +2,6 @@
 
 #include "macro_manager/manager_layout.h"
 #include "main_window_bench.h"
-#include "platform/edit_field.h"
 #include "skin/static_text.h"
 #include "ui/dialog_layouts.h"
 
@@ -119,36 +118,31 @@ TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
 
 TEST_F(MacroPage, ANameIsCheckedAndTheListAloneLeavesARefusedOneForCorrection) {
     addMacros({"Roll"});
-    const auto enter = [&] { window->OnKey({KeyPress::Key::Enter, true}); };
-    const auto elsewhere = [&] { click(id::delayCheck); };
-    const auto inList = [&] { click(id::macroList); };
-    const std::string comma = "\xA3\xAC";
-    const std::string taken = "The macro is existen" + comma + "please new it again!";
-    const std::string tooLong = "The lengh of name exceed 12" + comma + "please new it again!";
-    const struct {
-        std::string name;
-        std::function<void()> end;
-        std::string notice;
-        bool stays;
-    } cases[] = {
-        {"Roll", enter, taken, false},
-        {"ThirteenChars", enter, tooLong, false},
-        {"Enter", enter, "", false},
-        {"Roll", elsewhere, taken, false},
-        {"ThirteenChars", elsewhere, tooLong, false},
-        {"TwelveChars_", elsewhere, "", false},
-        {"", elsewhere, "", false},
-        {"Roll", inList, "The Macro is existent,please rename it!", true},
-        {"ThirteenChars", inList, "The lengh of name is exceed 12,please new it again!", true},
-        {"List", inList, "", false},
-    };
-    for (const auto& [name, end, notice, stays] : cases) {
+    const std::function<void()> enter = [&] { window->OnKey({KeyPress::Key::Enter, true}); };
+    const std::function<void()> escape = [&] { window->OnKey({KeyPress::Key::Escape, true}); };
+    const std::function<void()> elsewhere = [&] { click(id::delayCheck); };
+    const std::function<void()> inList = [&] { click(id::macroList); };
+    const auto check = [&](const std::string& name, const std::function<void()>& end,
+                           const std::string& notice, bool stays = false) {
         enterName(name);
         EXPECT_EQ(noticeOf(end), notice) << name;
         EXPECT_EQ(list().isEditing() && list().editorText() == name, stays) << name;
+    };
+    const std::string comma = "\xA3\xAC";
+    for (const auto& end : {enter, elsewhere}) {
+        check("Roll", end, "The macro is existen" + comma + "please new it again!");
+        check("ThirteenChars", end, "The lengh of name exceed 12" + comma + "please new it again!");
     }
+    check("Roll", inList, "The Macro is existent,please rename it!", true);
+    check("ThirteenChars", inList, "The lengh of name is exceed 12,please new it again!", true);
+    check("dropped", escape, "");
+    check("", elsewhere, "");
+    check("Enter", enter, "");
+    check("Twelve chars", elsewhere, "");
+    check("List", inList, "");
+    EXPECT_TRUE(window->isVisible()) << "Escape closed the field alone";
     const auto named = [](const char* name) { return ::testing::Field(&MacroKey::name, name); };
-    EXPECT_THAT(set().keys, ElementsAre(named("Roll"), named("Enter"), named("TwelveChars_"), named("List")));
+    EXPECT_THAT(set().keys, ElementsAre(named("Roll"), named("Enter"), named("Twelve chars"), named("List")));
     EXPECT_THAT(changes(), ::testing::Each("replace " + file("MacroLibraryFile.mlf")));
     enterName("kept");
     click(id::macroButton2);

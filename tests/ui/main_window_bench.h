@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "skin/list_popup.h"
-#include "skin/tab_control.h"
 #include "support/fake_clock.h"
 #include "support/memory_files.h"
 #include "support/prepared_shell.h"

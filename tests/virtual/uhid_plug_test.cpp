@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <linux/uhid.h>
-#include <poll.h>
 #include <sys/socket.h>
 
 #include <optional>

@@ -30,6 +30,7 @@ ProfileRecord sampleProfile() {
     record.Settings[settingLightMode].Value = "99";
     record.KeyCodes[17] = 0xC4;
     record.GKeys[0] = {"A \"quoted\" \\ name", "", keyAssignment(FunctionType::KeyCombination, 0x03, 0x04)};
+    record.GKeys[1] = {"Fire", "", keyAssignment(FunctionType::Macro)};
     record.GKeys[2] = {"prog", "/usr/bin/prog", keyAssignment(FunctionType::Launch)};
     record.GKeys[3] = {"\xC2\x9B", "", {0x02, 0x01, 0x00}};
     return record;
@@ -77,6 +78,7 @@ TEST_F(CtlFilesTest, ShowsFilesReadablyAndAsJsonWithoutSteeringTheTerminal) {
             StartsWith("profile: \xE6\x88\x91 \\x1B[31m\nlight:\n  mode: 99\n  brightness: 4 (100%)\n"),
             HasSubstr("\nremapped:\n  - position: 17, factory: 192 (F1), code: 196 (F5)\n"),
             HasSubstr("key: G1, name: A \"quoted\" \\ name, function: CTRL+SHIFT+A, value: 060304, url:\n"),
+            HasSubstr("name: Fire, function: macro, value: 010000"),
             HasSubstr("function: program launch, value: 070000, url: /usr/bin/prog\n"),
             HasSubstr("name: \\x9B, function: unknown function, value: 020100")));
     const std::string json = ctl("show --json p.psf").out;
@@ -94,8 +96,9 @@ TEST_F(CtlFilesTest, ShowsFilesReadablyAndAsJsonWithoutSteeringTheTerminal) {
 TEST_F(CtlFilesTest, WrongUsageAndUnwritableOutputHaveStatusesOfTheirOwn) {
     writeFile("p.psf", formatProfile(sampleProfile()));
     for (const char* wrong :
-         {"", "chek p.psf", "check", "show p.psf p.psf", "show --json=1 p.psf", "select 0", "select 4",
-          "select 1x", "write --profile 1", "write p.psf --profile", "--json"}) {
+         {"", "chek p.psf", "check", "show p.psf p.psf", "show --json=1 p.psf", "show --json --json p.psf",
+          "doctor now", "read", "select 0", "select 4", "select 1x", "write --profile 1",
+          "write p.psf --profile", "write p.psf --profile 4", "monitor 1", "--json"}) {
         const Outcome outcome = ctl(wrong);
         EXPECT_EQ(outcome.status, 2) << wrong;
         EXPECT_EQ(outcome.out, "") << wrong;
@@ -103,6 +106,7 @@ TEST_F(CtlFilesTest, WrongUsageAndUnwritableOutputHaveStatusesOfTheirOwn) {
     }
     EXPECT_EQ(ctl("check -- --json").status, 6) << "a file's name after --";
     EXPECT_EQ(shell("$CTL show p.psf > /dev/full").status, 1);
+    EXPECT_THAT(ctl("--version").out, StartsWith("tarnixctl 1"));
 }
 
 } // namespace

@@ -90,19 +90,6 @@ TEST_F(RoutingTest, OnlyWhatChangedIsPaintedAndATabPaintsTheWholeFace) {
     EXPECT_EQ(repainted(), dialog.clientRect());
 }
 
-TEST_F(RoutingTest, HiddenControlsAndThoseOutsideTheClipAreNotPainted) {
-    pictures.addStrip(500, 3, left.size());
-    ASSERT_TRUE(a->LoadImage(500));
-    const std::tuple<Rect, bool, bool> cases[] = {
-        {left, true, true}, {right, true, false}, {left, false, false}};
-    for (const auto& [clip, visible, painted] : cases) {
-        const auto surface = makeSurface({400, 300});
-        a->SetVisible(visible);
-        dialog.controls().draw(surface->canvas(), clip);
-        EXPECT_EQ(surface->image().pixel(onLeft) == frameColor(0), painted);
-    }
-}
-
 TEST(BackgroundTest, TheOutlineLeavesYellowOut) {
     const auto bitmap = makeSurface({6, 3});
     for (const Rect& yellow : {Rect{0, 0, 1, 1}, {3, 0, 4, 1}, {5, 0, 6, 1}, {0, 1, 6, 2}})

@@ -89,6 +89,7 @@ TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
     EXPECT_EQ(noticeAt(save), "Please select which Macro to export!");
     EXPECT_EQ(noticeAt(id::macroButton2), "Please select which Macro to delete!");
     EXPECT_EQ(noticeAt(id::recordSwitch), "Please select the macro which to record!");
+    EXPECT_FALSE(isDisabled(id::macroButton1) || window->control<CCheckButton>(id::recordSwitch)->m_bChecked);
     addMacros({"Tap", "Roll"});
     list().m_nSelected = 1;
     window->send(id::macroList, 0, NOTIFY_CLICK);

@@ -17,23 +17,6 @@ TEST_F(MainWindow, AValueWithoutANameLeavesItsFieldAsItIs) {
     }
 }
 
-TEST_F(MainWindow, AChoiceOfLightIsStoredInItsOwnSetting) {
-    const std::tuple<unsigned, PopupPlace, int> settings[] = {
-        {id::lightModeField, PopupPlace::LightMode, settingLightMode},
-        {id::brightnessField, PopupPlace::LightBrightness, settingLightBrightness},
-        {id::speedField, PopupPlace::LightSpeed, settingLightSpeed}};
-    g_nMainPage = 3;
-    window->send(id::lightingPageTab, 0, NOTIFY_CLICK);
-    for (const auto& [id, place, pair] : settings) {
-        click(id);
-        testing::settle();
-        ASSERT_TRUE(isOpen(place)) << id;
-        choose(place, 2);
-        EXPECT_EQ(store.settingNumber(0, pair), 2) << id;
-        EXPECT_FALSE(field(id).m_bOpen || isOpen(place)) << id;
-    }
-}
-
 TEST_F(MainWindow, OnlyAClickOnTheLogoOpensItsLinkAndTheEndIsTheFarewellAndTheEndOfTheTrayIcon) {
     for (const LParam code : {NOTIFY_ENTER, NOTIFY_DOWN, NOTIFY_LEAVE})
         window->send(id::logoLink, 0, code);

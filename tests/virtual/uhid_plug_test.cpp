@@ -15,36 +15,27 @@ using testing::ElementsAre;
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// The kernel's end of /dev/uhid, where every event is a packet.
-class UhidPlugTest : public testing::Test {
-  protected:
-    void SetUp() override {
-        int ends[2];
-        ASSERT_EQ(::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends), 0);
-        kernel = FileDescriptor(ends[0]);
-        plug.emplace(FileDescriptor(ends[1]), BusInterface{"Keyboard", 0x04F3, 0x1406, 2, 1, {5, 10, 0xC0}},
-                     device);
-    }
-
-    void ask(const uhid_event& event) {
+TEST(UhidPlug, MakesADeviceThatAnswersWithTheRequestsNumberAndTakesItAway) {
+    int ends[2];
+    ASSERT_EQ(::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends), 0);
+    const FileDescriptor kernel(ends[0]); // its end of /dev/uhid, where every event is a packet
+    EchoFunction device;
+    const BusInterface interface {
+        "Keyboard", 0x04F3, 0x1406, 2, 1, { 5, 10, 0xC0 }
+    };
+    std::optional<UhidPlug> plug(std::in_place, FileDescriptor(ends[1]), interface, device);
+    const auto ask = [&](const uhid_event& event) {
         ASSERT_EQ(::write(kernel.get(), &event, sizeof event), static_cast<ssize_t>(sizeof event));
         while (g_main_context_iteration(nullptr, FALSE)) {
         }
-    }
-
-    /// The next event; its type is 0, which is none, where there is no more.
-    uhid_event told() {
+    };
+    // The next event; its type is 0, which is none, where there is no more.
+    const auto told = [&] {
         uhid_event event{};
         (void)::recv(kernel.get(), &event, sizeof event, MSG_DONTWAIT);
         return event;
-    }
+    };
 
-    EchoFunction device;
-    FileDescriptor kernel;
-    std::optional<UhidPlug> plug;
-};
-
-TEST_F(UhidPlugTest, MakesADeviceThatAnswersWithTheRequestsNumberAndTakesItAway) {
     const uhid_event create = told();
     EXPECT_EQ(create.type, UHID_CREATE2);
     EXPECT_THAT(Bytes(create.u.create2.rd_data, create.u.create2.rd_data + create.u.create2.rd_size),

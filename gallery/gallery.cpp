@@ -84,7 +84,7 @@ class Gallery : public ::testing::Test {
 
     /// Runs the window, and the scenario in it once the window is active.
     void play(const std::function<void()>& scenario) {
-        loop().post([&] {
+        testing::application().mainLoop().post([&] {
             testing::hasKeyboard(*bench.window);
             scenario();
             bench.window->endModal(IDCANCEL);

@@ -143,9 +143,9 @@ TEST_F(CtlKeyboardTest, DoctorTellsNoKeyboardNoRightsInUseSilentAndWorkingApart)
 TEST_F(CtlKeyboardTest, WithoutRightsEveryCommandSaysSoAndDoctorNamesTheMend) {
     // The superuser may do everything, so somebody else has to try.
     const std::string closed =
-        "chmod -R a+rX . && cp $CTL ctl && chmod 755 $UMOCKDEV_DIR ctl && chmod -R a+rwX $UMOCKDEV_DIR/ioctl "
-        "&& "
-        "chmod 000 $UMOCKDEV_DIR/dev/hidraw* && unset XDG_RUNTIME_DIR && "
+        "chmod -R a+rX . && cp $CTL ctl && chmod 755 $UMOCKDEV_DIR ctl && "
+        "chmod -R a+rwX $UMOCKDEV_DIR/ioctl && chmod 000 $UMOCKDEV_DIR/dev/hidraw* && "
+        "unset XDG_RUNTIME_DIR && "
         "$([ $(id -u) != 0 ] || echo setpriv --reuid=65534 --regid=65534 --clear-groups) ./ctl ";
     const Outcome outcome = withKeyboard({}, closed + "doctor");
     EXPECT_EQ(outcome.status, 4) << outcome.error;
@@ -246,6 +246,7 @@ TEST_F(CtlKeyboardTest, MonitorDecodesEventsOverAReplugUntilItIsInterrupted) {
     ::kill(std::atoi(fileText("pid").c_str()), SIGINT);
     launcher->rest();
     EXPECT_EQ(launcher->status(), 0);
+    EXPECT_EQ(shell("ls -d umockdev*").status, 2) << "the mocked system is left behind";
     EXPECT_EQ(ctl("monitor").status, 3) << "no keyboard at the start";
 }
 

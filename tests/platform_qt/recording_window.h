@@ -23,7 +23,6 @@ class RecordingWindow : public Window {
     void OnLButtonDblClk(unsigned flags, Point at) override { note("double" + text(flags, at)); }
     void OnMouseWheel(int delta, Point) override { note("wheel " + std::to_string(delta)); }
     void OnMouseLeave() override { note("leave"); }
-    void OnMouseHover() override { note("hover"); }
     void OnActivate(bool active) override { note(active ? "active" : "inactive"); }
     bool OnKey(const KeyPress& key) override {
         static const char* const names[] = {"other", "Enter", "Escape", "Tab", "Space"};

@@ -18,7 +18,6 @@ class RoutingTest : public SkinTest {
         a = &dialog.make<CImageButton>(0, 2100u, left);
         b = &dialog.make<CImageButton>(2, 2101u, right);
     }
-    void click(Point at) { clickAt(dialog, at); }
     /// The rectangles painted since the last call, as one.
     Rect repainted() {
         dialog.update();
@@ -48,18 +47,18 @@ TEST_F(RoutingTest, PressedControlKeepsThePointerUntilTheRelease) {
 
 TEST_F(RoutingTest, ClicksGoToTheLastVisibleControlUnderThePointerThatMayBeDroppedByThem) {
     auto& over = dialog.make<CImageButton>(4, 2102u, left);
-    click(onLeft);
+    clickAt(dialog, onLeft);
     dialog.OnLButtonDblClk(0, onLeft);
     dialog.OnLButtonUp(0, onLeft);
     EXPECT_EQ(dialog.take(), (Notices{{2102, 0, 1}, {2102, 0, 2}, {2102, 0, 2}}));
     over.SetVisible(false);
     dialog.m_messages.onClick(2100, [this] { dialog.OnMouseLeave(); });
-    click(onLeft);
+    clickAt(dialog, onLeft);
     EXPECT_EQ(dialog.take(), (Notices{{2100, 0, 1}, {2100, 0, 2}}));
     EXPECT_EQ(dialog.mouse().hot(), nullptr);
     EXPECT_EQ(a->m_nMouseState, mouseNormal);
     a->m_bDisabled = true;
-    click(onLeft);
+    clickAt(dialog, onLeft);
     EXPECT_EQ(dialog.take(), Notices{});
 }
 
@@ -80,14 +79,27 @@ TEST_F(RoutingTest, OnlyWhatChangedIsPaintedAndATabPaintsTheWholeFace) {
     a->SetText("Caption");
     EXPECT_TRUE(repainted().empty());
     auto& check = dialog.make<CCheckButton>(0, 2112u, Rect::at(120, 150, 30, 30));
-    click({125, 155});
+    clickAt(dialog, {125, 155});
     repainted();
     dialog.OnLButtonDblClk(0, {125, 155});
     dialog.OnLButtonUp(0, {125, 155});
     EXPECT_EQ(repainted(), check.GetRect()) << "its mark, though the pointer's state stays";
     dialog.make<CTabControl>(0, 2003u, Rect::at(200, 150, 30, 30));
-    click({205, 155});
+    clickAt(dialog, {205, 155});
     EXPECT_EQ(repainted(), dialog.clientRect());
+}
+
+TEST_F(RoutingTest, HiddenControlsAndThoseOutsideTheClipAreNotPainted) {
+    pictures.addStrip(500, 3, left.size());
+    ASSERT_TRUE(a->LoadImage(500));
+    const std::tuple<Rect, bool, bool> cases[] = {
+        {left, true, true}, {right, true, false}, {left, false, false}};
+    for (const auto& [clip, visible, painted] : cases) {
+        const auto surface = makeSurface({400, 300});
+        a->SetVisible(visible);
+        dialog.controls().draw(surface->canvas(), clip);
+        EXPECT_EQ(surface->image().pixel(onLeft) == frameColor(0), painted);
+    }
 }
 
 TEST(BackgroundTest, TheOutlineLeavesYellowOut) {

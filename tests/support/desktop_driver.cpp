@@ -1,5 +1,6 @@
 #include "support/desktop_driver.h"
 
+#include <gmock/gmock.h>
 #include <xcb/xcb.h>
 
 #include <QCoreApplication>
@@ -16,6 +17,8 @@
 namespace tarnix::testing {
 
 namespace {
+
+Application* g_application = nullptr;
 
 /// The tool returns once the display has taken the events.
 void hand(const QStringList& arguments) {
@@ -37,6 +40,10 @@ void askDisplay() {
 
 } // namespace
 
+Application& application() {
+    return *g_application;
+}
+
 bool runUntil(const std::function<bool()>& condition, std::chrono::milliseconds atMost) {
     QTimer wake;
     wake.start(5);
@@ -52,6 +59,10 @@ bool runUntil(const std::function<bool()>& condition, std::chrono::milliseconds 
 bool hasKeyboard(const Window& window) {
     const QWindow* native = window.native()->widget->windowHandle();
     return runUntil([&] { return QGuiApplication::focusWindow() == native; });
+}
+
+std::string focusedText() {
+    return QGuiApplication::focusObject()->property("text").toString().toStdString();
 }
 
 void settle() {
@@ -109,3 +120,11 @@ std::shared_ptr<void> anotherProgram() {
 }
 
 } // namespace tarnix::testing
+
+// Of the test programs that link the driver: one connection to the desktop for all tests.
+int main(int argc, char** argv) {
+    ::testing::InitGoogleMock(&argc, argv);
+    tarnix::Application application(argc, argv);
+    tarnix::testing::g_application = &application;
+    return RUN_ALL_TESTS();
+}

@@ -20,6 +20,8 @@ bool runUntil(const std::function<bool()>& condition,
               std::chrono::milliseconds atMost = std::chrono::seconds{10});
 /// Runs the event loop until keys go to the window. False when they do not in time.
 bool hasKeyboard(const Window& window);
+/// What stands in the field that keys go to.
+std::string focusedText();
 /// Runs the event loop until everything that was sent to the display so far has come back and is dealt with.
 void settle();
 

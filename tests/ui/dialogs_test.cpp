@@ -63,11 +63,10 @@ class Dialogs : public ::testing::Test {
 
 class KeyMap : public Dialogs {
   protected:
-    /// The key "F1" with a current code; its own is 0xC0.
-    static KeyToMap keyWith(std::uint8_t code) { return {2201, "F1", 0xC0, code}; }
-    /// Opens the dialog for a current code, does something, and confirms.
+    /// Opens the dialog for the key "F1", whose own code is 0xC0, with a current one, does something, and
+    /// confirms.
     void map(std::uint8_t code, const std::function<void(CKeyMapSettingDlg&)>& steps) {
-        CKeyMapSettingDlg dialog(keyWith(code), &owner);
+        CKeyMapSettingDlg dialog({2201, "F1", 0xC0, code}, &owner);
         playIn(dialog, [&] {
             steps(dialog);
             clickControl(dialog, okButton);

@@ -11,15 +11,8 @@ MainWindowBench::MainWindowBench() {
         if (record.direction != WireDirection::Event)
             files.log.push_back(describeReport(record.direction, record.report));
     };
-    window = std::make_unique<CPelmoraDlg>(
-        MainWindowSurroundings{store, macros, files, clock, hid, loop(), shell, presence, "/kbd/"});
-}
-
-void MainWindowBench::open() {
-    window->Create();
-    window->show();
-    EXPECT_TRUE(testing::hasKeyboard(*window));
-    files.log.clear();
+    window = std::make_unique<CPelmoraDlg>(MainWindowSurroundings{
+        store, macros, files, clock, hid, testing::application().mainLoop(), shell, presence, "/kbd/"});
 }
 
 Journal MainWindowBench::changes() {

@@ -36,10 +36,6 @@ class NotingPresence : public DesktopPresence {
     Journal& m_journal;
 };
 
-inline MainLoop& loop() {
-    return testing::application().mainLoop();
-}
-
 class MainWindowBench {
   public:
     MainWindowBench();
@@ -54,8 +50,6 @@ class MainWindowBench {
     NotingPresence presence{files.log};
     std::unique_ptr<CPelmoraDlg> window;
 
-    /// Shows the window and waits until it is active; the journal is empty then.
-    void open();
     /// What the journal holds but for reading; it is empty afterwards.
     Journal changes();
 
@@ -73,10 +67,15 @@ class MainWindowBench {
     static std::string file(const std::string& name) { return "/kbd/config\\" + name; }
 };
 
-/// Tests of the window as it is after its start.
+/// Tests of the window as it is after its start, with an empty journal.
 class MainWindowTest : public ::testing::Test, public MainWindowBench {
   protected:
-    void SetUp() override { open(); }
+    void SetUp() override {
+        window->Create();
+        window->show();
+        EXPECT_TRUE(testing::hasKeyboard(*window));
+        files.log.clear();
+    }
 };
 
 } // namespace tarnix

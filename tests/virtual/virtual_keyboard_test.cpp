@@ -9,9 +9,17 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-TEST(VirtualKeyboard, RefusesWhatNoKeyboardUnderstands) {
+TEST(VirtualKeyboard, AnswersTheMacroThatItIsSetToAndRefusesWhatNoKeyboardUnderstands) {
     FakeClock clock;
     VirtualKeyboard keyboard{clock};
+    Bytes macro{8, 0xE2, 1, 5, 0, 0, 0, 0}, answer{8};
+    macro.resize(226, 'M');
+    answer.resize(226);
+    EXPECT_TRUE(keyboard.setFeature(Bytes{4, 1, 5}) && keyboard.setFeature(macro));
+    EXPECT_TRUE(keyboard.getFeature(answer));
+    EXPECT_EQ(answer, macro);
+    EXPECT_TRUE(keyboard.setFeature(Bytes{5, 3, 7}));
+    EXPECT_EQ(keyboard.activeProfile, 0) << "a farewell is no profile";
     const auto before = keyboard.profiles;
     Bytes codes(192);
     codes[0] = 6; // without its length byte
@@ -22,7 +30,7 @@ TEST(VirtualKeyboard, RefusesWhatNoKeyboardUnderstands) {
     for (Bytes report : {Bytes(191, 6), Bytes(3, 4)})
         EXPECT_FALSE(keyboard.getFeature(report));
     EXPECT_EQ(keyboard.profiles, before);
-    EXPECT_EQ(keyboard.wireLog().size(), 12u);
+    EXPECT_EQ(keyboard.wireLog().size(), 16u);
 }
 
 } // namespace

@@ -239,7 +239,11 @@ TEST_F(CtlKeyboardTest, MonitorDecodesEventsOverAReplugUntilItIsInterrupted) {
         EXPECT_THAT(seen, testing::EndsWith(answer));
     }
     EXPECT_THAT(seen, ContainsRegex(" [0-9]+\\.[0-9]{3}  05 02"));
-    for (const std::string bad : {"PLUG", "emit 5", "emit 256 0", "emit 0x 1", "profile 4", "record 1 04"}) {
+    for (const std::string bad :
+         {"emit 5",      "emit 256 0",      "emit 0x 1",       "profile 0",  "profile 4",
+          "light mode",  "light blue 3",    "light all 1 2 3", "lock win 2", "record 7",
+          "record 1 04", "record 1 04:100", "seed 1 1",        "fail some",  "delay -1",
+          "vanish x",    "mouse",           "wait x",          "PLUG",       "fail 99999999999"}) {
         launcher->command(bad);
         EXPECT_THAT(launcher->until("\n"), testing::Eq("error: " + bad + "\n"));
     }

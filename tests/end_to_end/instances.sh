@@ -42,7 +42,6 @@ while read -r text changed; do
 done << 'END'
 -1
 5
-99999999999999999999
 abc 0
 4 4
 END

@@ -108,8 +108,9 @@ TEST_F(KeyMap, ShowsWhatTheKeyDoesNowAndReportsTheSelectedSideAlone) {
         hookEvent(dialog, 'B', 1);
         clickControl(dialog, keymap::ownFunction);
     });
+    map(0x04, [](CDlgBase& dialog) { hookEvent(dialog, 0x1B, 1); });
     EXPECT_THAT(owner.received,
-                ElementsAre("2201 D3", "2201 04", "2201 D6", "2201 05", "2201 C0", "2201 C0"));
+                ElementsAre("2201 D3", "2201 04", "2201 D6", "2201 05", "2201 C0", "2201 C0", "2201 29"));
 }
 
 TEST_F(KeyMap, MouseFunctionsAreTakenFromTheirRecordsAndAnUnknownOneFallsBack) {

@@ -119,8 +119,8 @@ TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
 
 TEST_F(MacroPage, ANameIsCheckedAndTheListAloneLeavesARefusedOneForCorrection) {
     addMacros({"Roll"});
-    const std::function<void()> enter = [&] { window->OnKey({KeyPress::Key::Enter, true}); };
-    const std::function<void()> escape = [&] { window->OnKey({KeyPress::Key::Escape, true}); };
+    const std::function<void()> enter = [&] { EXPECT_TRUE(window->OnKey({KeyPress::Key::Enter, true})); };
+    const std::function<void()> escape = [&] { EXPECT_TRUE(window->OnKey({KeyPress::Key::Escape, true})); };
     const std::function<void()> elsewhere = [&] { click(id::delayCheck); };
     const std::function<void()> inList = [&] { click(id::macroList); };
     const auto check = [&](const std::string& name, const std::function<void()>& end,

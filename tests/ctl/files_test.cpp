@@ -107,6 +107,7 @@ TEST_F(CtlFilesTest, WrongUsageAndUnwritableOutputHaveStatusesOfTheirOwn) {
     EXPECT_EQ(ctl("check -- --json").status, 6) << "a file's name after --";
     EXPECT_EQ(shell("$CTL show p.psf > /dev/full").status, 1);
     EXPECT_THAT(ctl("--version").out, StartsWith("tarnixctl 1"));
+    EXPECT_THAT(ctl("write --help").out, HasSubstr("7 a transfer failed"));
 }
 
 } // namespace

@@ -84,7 +84,6 @@ item(main, "Brightness, 75%")
 assert not has(field, "EXPANDED")
 press(main, "Speed, Normal", "combo box")
 press("Speed", "Fast")
-item(main, "Speed, Fast")
 
 # What is pressed while the keyboard is written to comes after it.
 for name in "Apply", "Profile 2", "Apply":

@@ -42,6 +42,7 @@ class KeyboardHookTest : public ::testing::Test {
             window.createWindow({.role = "Hooked", .taskbarButton = true}, Rect::at(100, 100, 200, 100)));
         window.show();
         ASSERT_TRUE(hasKeyboard(window));
+        settle();
     }
 
     HookedWindow window;

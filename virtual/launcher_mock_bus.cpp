@@ -21,6 +21,7 @@
 #include "platform/linux/file_descriptor.h"
 #include "virtual/glib_source.h"
 #include "virtual/launcher_bus.h"
+#include "virtual/main_queue.h"
 
 namespace tarnix {
 namespace {
@@ -148,7 +149,8 @@ class DelayedAnswer {
 
 class MockPlug final : public BusPlug {
   public:
-    MockPlug(UMockdevTestbed* testbed, const BusInterface& interface, BusFunction& function, unsigned number)
+    MockPlug(UMockdevTestbed* testbed, MainQueue& queue, const BusInterface& interface, BusFunction& function,
+             unsigned number)
         : m_testbed(testbed),
           m_interface(interface),
           m_function(function),
@@ -164,18 +166,22 @@ class MockPlug final : public BusPlug {
         ::fcntl(m_terminal.get(), F_SETFD, FD_CLOEXEC);
         m_peer = FileDescriptor(
             ::ioctl(m_terminal.get(), TIOCGPTPEER, O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
-        g_signal_connect(m_handler.get(), "handle-ioctl", G_CALLBACK(onIoctl), this);
-        g_signal_connect(m_handler.get(), "handle-read", G_CALLBACK(onRead), this);
-        g_signal_connect(m_handler.get(), "client-connected", G_CALLBACK(onOpen), this);
-        g_signal_connect(m_handler.get(), "client-vanished", G_CALLBACK(onClose), this);
+        const auto connect = [&](const char* signal, GCallback handler) {
+            g_signal_connect_data(m_handler.get(), signal, handler, new Line{queue, m_self},
+                                  [](void* line, GClosure*) { delete static_cast<Line*>(line); }, {});
+        };
+        connect("handle-ioctl", G_CALLBACK(onIoctl));
+        connect("handle-read", G_CALLBACK(onRead));
+        connect("client-connected", G_CALLBACK(onOpen));
+        connect("client-vanished", G_CALLBACK(onClose));
         umockdev_testbed_attach_ioctl(testbed, m_place.device.c_str(), m_handler.get(), nullptr);
         announce(testbed, sysPath(m_place.node), "add");
     }
 
     ~MockPlug() override {
+        *m_self = nullptr;
         if (!plugged()) return;
         m_answers.clear();
-        g_signal_handlers_disconnect_by_data(m_handler.get(), this);
         m_terminal = {};
         m_peer = {};
         announce(m_testbed, sysPath(m_place.node), "remove");
@@ -206,9 +212,38 @@ class MockPlug final : public BusPlug {
 
     static std::string sysPath(const std::string& device) { return "/sys" + device; }
 
-    static gboolean onRead(UMockdevIoctlBase*, UMockdevIoctlClient* client, void* self) {
-        static_cast<MockPlug*>(self)->answerRead(client);
+    /// What the test bed has of a plug. It calls from a thread of its own: what it asks is answered from the
+    /// main loop, if the plug is still there by then.
+    struct Line {
+        MainQueue& queue;
+        std::shared_ptr<MockPlug*> plug;
+
+        void post(UMockdevIoctlClient* client, void (MockPlug::*handle)(UMockdevIoctlClient*),
+                  bool awaitsAnswer) const {
+            const std::shared_ptr<UMockdevIoctlClient> held(
+                static_cast<UMockdevIoctlClient*>(g_object_ref(client)), Unref());
+            queue.post([self = plug, held, handle, awaitsAnswer] {
+                if (*self)
+                    (*self->*handle)(held.get());
+                else if (awaitsAnswer)
+                    umockdev_ioctl_client_complete(held.get(), -1, ENODEV);
+            });
+        }
+    };
+
+    static gboolean onIoctl(UMockdevIoctlBase*, UMockdevIoctlClient* client, void* line) {
+        static_cast<const Line*>(line)->post(client, &MockPlug::answerIoctl, true);
         return TRUE;
+    }
+    static gboolean onRead(UMockdevIoctlBase*, UMockdevIoctlClient* client, void* line) {
+        static_cast<const Line*>(line)->post(client, &MockPlug::answerRead, true);
+        return TRUE;
+    }
+    static void onOpen(UMockdevIoctlBase*, UMockdevIoctlClient* client, void* line) {
+        static_cast<const Line*>(line)->post(client, &MockPlug::addClient, false);
+    }
+    static void onClose(UMockdevIoctlBase*, UMockdevIoctlClient* client, void* line) {
+        static_cast<const Line*>(line)->post(client, &MockPlug::removeClient, false);
     }
 
     void answerRead(UMockdevIoctlClient* client) {
@@ -235,20 +270,17 @@ class MockPlug final : public BusPlug {
             --m_marksToTake;
     }
 
-    static void onOpen(UMockdevIoctlBase*, UMockdevIoctlClient*, void* self) {
-        ++static_cast<MockPlug*>(self)->m_clients;
+    void addClient(UMockdevIoctlClient*) { ++m_clients; }
+
+    void removeClient(UMockdevIoctlClient*) {
+        if (--m_clients > 0) return;
+        m_marksToTake += static_cast<int>(m_reports.size());
+        m_reports.clear();
+        takeMarks();
     }
 
-    static void onClose(UMockdevIoctlBase*, UMockdevIoctlClient*, void* self) {
-        auto& plug = *static_cast<MockPlug*>(self);
-        if (--plug.m_clients > 0) return;
-        plug.m_marksToTake += static_cast<int>(plug.m_reports.size());
-        plug.m_reports.clear();
-        plug.takeMarks();
-    }
-
-    static gboolean onIoctl(UMockdevIoctlBase*, UMockdevIoctlClient* client, void* self) {
-        return static_cast<MockPlug*>(self)->answer(client) ? TRUE : FALSE;
+    void answerIoctl(UMockdevIoctlClient* client) {
+        if (!answer(client)) umockdev_ioctl_client_complete(client, -1, ENOTTY);
     }
 
     /// True when the request was one that a hidraw node knows.
@@ -336,6 +368,7 @@ class MockPlug final : public BusPlug {
     BusInterface m_interface;
     BusFunction& m_function;
     NodePlace m_place;
+    std::shared_ptr<MockPlug*> m_self = std::make_shared<MockPlug*>(this); ///< none once it is gone
     GObjectPtr<UMockdevIoctlBase> m_handler;
     FileDescriptor m_terminal; ///< behind the node; closing it hangs up the node's readers
     FileDescriptor m_peer;     ///< the readers' end
@@ -351,12 +384,13 @@ class MockBus final : public Bus {
 
     std::unique_ptr<BusPlug> plug(const BusInterface& interface, BusFunction& function) override {
         // A number that was used is not used again: the test bed cannot make the same node twice.
-        auto plug = std::make_unique<MockPlug>(m_testbed.get(), interface, function, m_nextNode++);
+        auto plug = std::make_unique<MockPlug>(m_testbed.get(), m_queue, interface, function, m_nextNode++);
         if (!plug->plugged()) return nullptr;
         return plug;
     }
 
   private:
+    MainQueue m_queue; ///< outlives the test bed's thread
     GObjectPtr<UMockdevTestbed> m_testbed;
     unsigned m_nextNode = 0;
 };

@@ -67,9 +67,9 @@ click() {
 }
 
 # picture ROLE WIDTHxHEIGHT+X+Y: what that part of the window looks like, as a word to compare. looks_like ... WORD
-# compares; painted ROLE tells that the window's first frame is there.
+# compares; painted ROLE tells that the window's first frame is there. Without a window import would ask for a click.
 picture() {
-    import -window "$(window "$1")" -crop "$2" +repage rgb:- | md5sum
+    window "$1" > /dev/null && import -window "$window_id" -crop "$2" +repage rgb:- | md5sum
 }
 
 looks_like() {
@@ -77,7 +77,7 @@ looks_like() {
 }
 
 painted() {
-    [ "$(import -window "$(window "$1")" -format %k info:)" -gt 100 ]
+    window "$1" > /dev/null && [ "$(import -window "$window_id" -format %k info:)" -gt 100 ]
 }
 
 # screenshot FILE: the whole screen.

@@ -11,7 +11,7 @@
 #   launch      G-keys start the file that they name, and nothing else
 #   soak        random clicks, keys, event reports and unplugging; memory, handles and threads stay as they are
 #   sanitizers  the tests with the address, leak and undefined, and with the thread sanitizer
-#   valgrind    the tests of the core under memcheck
+#   valgrind    the unit tests under memcheck; --long: those with windows, too
 #
 #   --long: hours' worth of fuzzing in an hour, thousands of kills, ten minutes of soak, and whole test suites.
 set -euo pipefail
@@ -124,6 +124,12 @@ fuzz() {
     tried "Fuzzed: messages and input of the windows" fuzz-window fuzzed window "$(short_or_long 5 600)" 300
 }
 
+# passed COMMAND...: runs test programs, and counts the tests that passed.
+passed() {
+    "$@" | tee "$out/passed.log" || return
+    echo "counted: $(awk '/^\[  PASSED  \]/ {n += $4} END {print n + 0}' "$out/passed.log") tests"
+}
+
 # sanitized PRESET: the whole test suite, or the core's part of it. What the sanitizers say ends a test with a failure.
 # The thread sanitizer has a thread of its own, which wakes up and is no business of the idle program.
 sanitized() {
@@ -146,17 +152,20 @@ sanitizers() {
 }
 
 checked() {
-    local each
-    for each in profile_test macro_test device_test virtual_test files_test platform_test ctl_test; do
-        valgrind -q --error-exitcode=1 --leak-check=full --errors-for-leak-kinds=definite,indirect,possible \
-            --child-silent-after-fork=yes "build/$each" --gtest_filter="$(short_or_long '-FaultSweep.*' '*')" || return
+    local each checker=(valgrind -q --error-exitcode=1 --leak-check=full --errors-for-leak-kinds=definite,indirect,possible
+        --child-silent-after-fork=yes --suppressions=tests/support/memcheck.supp)
+    for each in profile macro device virtual files platform ctl uhid_plug; do
+        "${checker[@]}" "build/${each}_test" --gtest_filter="$(short_or_long '-FaultSweep.*' '*')" || return
     done
-    echo "counted: profile, macro, device, virtual keyboard, files, platform, tarnixctl"
+    [ -n "$long" ] || return 0
+    for each in res skin painting manager dialogs main_window keyboard_hook platform_qt_{window,picture,shell}; do
+        scripts/with_display.sh "${checker[@]}" "build/${each}_test" || return
+    done
 }
 
 memcheck() {
     scripts/setup.sh valgrind
-    tried "Tests of the core, valgrind memcheck" valgrind checked
+    tried "Unit tests, valgrind memcheck" valgrind passed checked
 }
 
 scripts/build.sh > "$out/build.log" || { tail -n 20 "$out/build.log" >&2; exit 1; }

@@ -152,9 +152,10 @@ void EditField::setText(const std::string& text) {
 void EditField::setVisible(bool visible) {
     if (visible) m_native->make();
     if (!m_native->widget) return;
-    // A field that is hidden with the keyboard would keep it.
-    if (!visible && m_native->widget->hasFocus()) m_native->widget->parentWindow().setFocus();
-    m_native->widget->setVisible(visible);
+    if (visible)
+        m_native->widget->show();
+    else
+        m_native->widget->parentWindow().hideChild(*m_native->widget);
 }
 
 void EditField::setEnabled(bool enabled) {

@@ -108,10 +108,14 @@ void WindowWidget::dispose() {
     if (m_handlers == 0) deleteLater();
 }
 
-void WindowWidget::discard(QWidget& child) {
-    // Else the next text field would have the keyboard.
+void WindowWidget::hideChild(QWidget& child) {
+    // A field that is hidden with the keyboard would keep it, or pass it on to the next one.
     if (m_window && child.hasFocus()) setFocus();
     child.hide();
+}
+
+void WindowWidget::discard(QWidget& child) {
+    hideChild(child);
     child.disconnect();
     m_discarded.emplace_back(&child);
     if (m_handlers == 0) handlersReturned();

@@ -45,6 +45,8 @@ class WindowWidget : public QWidget {
     /// True when the key goes no further: the window swallowed it, or it was Escape and ended a modal run.
     bool offerKey(const QKeyEvent& event);
 
+    /// The window takes the keyboard back from it.
+    void hideChild(QWidget& child);
     /// Deletes a child when none of the window's handlers is running: one of the child's own may have led
     /// here.
     void discard(QWidget& child);

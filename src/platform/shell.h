@@ -54,6 +54,8 @@ class TrayIcon {
     struct Callbacks {
         std::function<void()> activated;                ///< double-click, or the tray host's "activate"
         std::function<void(unsigned command)> selected; ///< a menu entry was chosen
+        /// The notification area has gone, and not come back for some seconds.
+        std::function<void()> vanished;
     };
     virtual ~TrayIcon() = default;
     /// True while the desktop has a notification area that shows icons.

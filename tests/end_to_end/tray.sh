@@ -44,7 +44,7 @@ xdotool key Down Return
 eventually window CPelmoraDlg
 hide 775 24 ""
 kill "$tray"
-eventually windows_are 0
+eventually state_is Iconic # nothing else would lead back to it
 start_tray
 on_icon 3
 eventually windows_are 2

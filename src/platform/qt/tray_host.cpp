@@ -9,7 +9,6 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
-#include <QTimer>
 #include <utility>
 
 #include "x11.h"
@@ -21,24 +20,31 @@ namespace {
 const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 
+/// Within it a desktop's panel that was restarted is back.
+constexpr std::chrono::seconds longestRestart{5};
+
 } // namespace
 
-TrayHost::TrayHost(std::function<void()> appeared) : m_appeared(std::move(appeared)) {
+TrayHost::TrayHost(std::function<void()> appeared, std::function<void()> vanished)
+    : m_appeared(std::move(appeared)) {
+    m_absence.setSingleShot(true);
+    m_absence.setInterval(longestRestart);
+    m_absence.callOnTimeout(this, [this, vanished = std::move(vanished)] {
+        if (!isPresent()) vanished();
+    });
     QDBusConnection bus = QDBusConnection::sessionBus();
     auto* watch = new QDBusServiceWatcher(watcherName, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watch, &QDBusServiceWatcher::serviceRegistered, this, [this] { askNotifierWatcher(); });
-    connect(watch, &QDBusServiceWatcher::serviceUnregistered, this, [this] { m_notifierHost = false; });
-    // The host may register with the watcher later.
+    connect(watch, &QDBusServiceWatcher::serviceUnregistered, this, [this] { setNotifierHost(false); });
+    // A host may register with the watcher later, or leave it.
     auto* ask = new QTimer(this);
     ask->setSingleShot(true);
     connect(ask, &QTimer::timeout, this, [this] { askNotifierWatcher(); });
-    bus.connect(watcherName, watcherPath, watcherName, QStringLiteral("StatusNotifierHostRegistered"), ask,
-                SLOT(start()));
+    for (const char* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
+        bus.connect(watcherName, watcherPath, watcherName, QString::fromLatin1(signal), ask, SLOT(start()));
     askNotifierWatcher();
     QCoreApplication::instance()->installNativeEventFilter(this);
-    QTimer::singleShot(0, this, [this] {
-        if (xembedTrayRuns()) m_appeared();
-    });
+    QTimer::singleShot(0, this, [this] { lookForXembedTray(); });
 }
 
 TrayHost::~TrayHost() {
@@ -47,7 +53,7 @@ TrayHost::~TrayHost() {
 }
 
 bool TrayHost::isPresent() const {
-    return m_notifierHost || xembedTrayRuns();
+    return m_notifierHost || xembedTray() != 0;
 }
 
 void TrayHost::askNotifierWatcher() {
@@ -59,18 +65,32 @@ void TrayHost::askNotifierWatcher() {
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         const QDBusPendingReply<QDBusVariant> reply = *answer;
         answer->deleteLater();
-        m_notifierHost = reply.isValid() && reply.value().variant().toBool();
-        if (m_notifierHost) m_appeared();
+        setNotifierHost(reply.isValid() && reply.value().variant().toBool());
     });
 }
 
+void TrayHost::setNotifierHost(bool present) {
+    if (std::exchange(m_notifierHost, present) && !present) m_absence.start();
+    if (present) m_appeared();
+}
+
+void TrayHost::lookForXembedTray() {
+    m_xembedTray = xembedTray();
+    if (m_xembedTray != 0) m_appeared();
+}
+
 bool TrayHost::nativeEventFilter(const QByteArray& type, void* event, qintptr*) {
-    // A tray that starts tells the root window's listeners.
     if (type != "xcb_generic_event_t") return false;
-    const auto* generic = static_cast<const xcb_generic_event_t*>(event);
-    if ((generic->response_type & 0x7F) != XCB_CLIENT_MESSAGE) return false;
-    const auto* message = static_cast<const xcb_client_message_event_t*>(event);
-    if (announcesXembedTray(message->type, message->data.data32[1])) m_appeared();
+    const int kind = static_cast<const xcb_generic_event_t*>(event)->response_type & 0x7F;
+    // A tray that starts tells the root window's listeners.
+    if (kind == XCB_CLIENT_MESSAGE) {
+        const auto* message = static_cast<const xcb_client_message_event_t*>(event);
+        if (announcesXembedTray(message->type, message->data.data32[1])) lookForXembedTray();
+    }
+    if (kind == XCB_DESTROY_NOTIFY) {
+        const auto* destroyed = static_cast<const xcb_destroy_notify_event_t*>(event);
+        if (destroyed->window == m_xembedTray) m_absence.start();
+    }
     return false;
 }
 

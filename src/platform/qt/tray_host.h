@@ -5,24 +5,31 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QObject>
+#include <QTimer>
+#include <cstdint>
 #include <functional>
 
 namespace tarnix {
 
 class TrayHost : public QObject, QAbstractNativeEventFilter {
   public:
-    /// Looks for one without waiting for the answers. `appeared` is called when there is one, then and later.
-    explicit TrayHost(std::function<void()> appeared);
+    /// Looks for one without waiting for the answers. `appeared` is called when there is one, then and later;
+    /// `vanished` when it has gone and none has come in its place for some seconds.
+    TrayHost(std::function<void()> appeared, std::function<void()> vanished);
     ~TrayHost() override;
 
     bool isPresent() const;
 
   private:
     void askNotifierWatcher();
+    void setNotifierHost(bool present);
+    void lookForXembedTray();
     bool nativeEventFilter(const QByteArray& type, void* event, qintptr* result) override;
 
     std::function<void()> m_appeared;
+    QTimer m_absence;
     bool m_notifierHost = false;
+    std::uint32_t m_xembedTray = 0; ///< its window; 0 without one
 };
 
 } // namespace tarnix

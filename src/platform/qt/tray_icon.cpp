@@ -23,7 +23,9 @@ class QtTrayIcon : public TrayIcon {
     QtTrayIcon(const Image& icon, const std::string& tip, const std::vector<MenuItem>& items,
                Callbacks callbacks)
         : m_picture(iconOf(icon)), m_tip(decodeText(tip)), m_items(items), m_callbacks(std::move(callbacks)) {
-        afterFirstPaint(m_context, [this] { m_host.emplace([this] { appear(); }); });
+        afterFirstPaint(m_context, [this] {
+            m_host.emplace([this] { appear(); }, [this] { enter(m_callbacks.vanished); });
+        });
     }
 
     bool available() const override { return m_icon && m_host && m_host->isPresent(); }

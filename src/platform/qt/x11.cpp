@@ -86,13 +86,16 @@ bool setNativeShape(const QWidget& window, const std::vector<QRect>& outline) {
     return true;
 }
 
-bool xembedTrayRuns() {
+std::uint32_t xembedTray() {
     xcb_connection_t* x11 = connection();
-    if (!x11) return false;
+    if (!x11) return 0;
     const auto cookie = xcb_get_selection_owner(x11, traySelection(x11));
     const ReplyPointer<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(x11, cookie, nullptr));
-    return reply && reply->owner != XCB_WINDOW_NONE;
+    if (!reply || reply->owner == XCB_WINDOW_NONE) return 0;
+    constexpr std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    xcb_change_window_attributes(x11, reply->owner, XCB_CW_EVENT_MASK, &mask);
+    return reply->owner;
 }
 
 bool announcesXembedTray(std::uint32_t type, std::uint32_t selection) {

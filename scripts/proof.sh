@@ -90,7 +90,7 @@ soak() {
 }
 
 # fuzzed TARGET SECONDS LONGEST: runs a fuzzer on the inputs that earlier runs found worth keeping, and on the seeds. An
-# input that takes a second counts if it does so again: the machine may have been busy.
+# input that takes a second counts if it does so five times more: the machine may be busy with other things.
 fuzzed() {
     local leaks=1 end=$((SECONDS + $2)) slow executed=0 result
     mkdir -p "$out/corpus-$1"
@@ -99,6 +99,11 @@ fuzzed() {
     case $1 in text | window) leaks=0 ;; esac
     local fuzzer=(env QT_QPA_PLATFORM=offscreen ASAN_OPTIONS="detect_leaks=$leaks" nice "build-fuzz/$1_fuzz" -timeout=1
         -malloc_limit_mb=64 -rss_limit_mb=4096 -max_len="$3" -artifact_prefix="$out/" -print_final_stats=1 -verbosity=0)
+    again() {
+        local n
+        for n in {1..5}; do "${fuzzer[@]}" "$slow" && return; done
+        return 1
+    }
     while [ $SECONDS -lt $end ]; do
         rm -f "$out"/timeout-*
         result=0
@@ -106,7 +111,7 @@ fuzzed() {
         executed=$((executed + $(sed -n 's/^stat::number_of_executed_units: *//p' "$out/fuzzer.log")))
         [ $result = 1 ] || continue
         for slow in "$out"/timeout-*; do
-            [ -e "$slow" ] && "${fuzzer[@]}" "$slow" || break 2
+            [ -e "$slow" ] && again || break 2
         done
         result=0
     done

@@ -42,7 +42,10 @@ class QueueLoop : public MainLoop {
     /// Runs the next piece of work; false when it takes too long to come.
     bool runOne(Milliseconds patience = std::chrono::seconds(20)) {
         std::unique_lock lock(m_mutex);
-        if (!m_posted.wait_for(lock, patience, [this] { return !m_work.empty(); })) return false;
+        const auto there = [this] { return !m_work.empty(); };
+        // A wait for no time would still give the processor away.
+        if (!there() && (patience == Milliseconds(0) || !m_posted.wait_for(lock, patience, there)))
+            return false;
         const auto work = std::move(m_work.front());
         m_work.pop_front();
         lock.unlock();

@@ -31,6 +31,8 @@ keeps() {
     remap_f1 "$1"
     apply
     eventually reports_are "set 06 key codes profile 1: 1 remapped" "set 05 active profile: 1"
+    keyboard emit 10 0 # which is heard once the apply is over
+    eventually reports_are "event 0A" "set 04 select profile 1 G1" "get 07 lighting profile 1"
     diff -r -x filler "$desktop/given" "$config"
 }
 saves() {

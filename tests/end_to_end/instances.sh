@@ -23,7 +23,9 @@ reports_are
 kill -9 "$(xdotool getwindowpid "$first")"
 wait "$program_pid" || true
 start
-end_program
+kill "$(xdotool getwindowpid "$window_id")"
+ended "$program_pid"
+[ "$(grep -c 'program ends' "$keyboard_log")" = 1 ]
 
 # All profiles have F1 remapped: the picture tells whether one of them is shown.
 sed -i '11s/^\(.\{43\}\)C0/\1C4/' "$config"/default?.psf

@@ -27,6 +27,7 @@ keyboard profile 2
 eventually window COSDDialog
 osd=$window_id
 [ "$(xdotool getwindowgeometry --shell "$osd" | sed -n '2,5s/.*=//p' | xargs)" = "980 968 300 56" ]
+sleep 2
 for event in "lock win 1" "lock all 0" "profile 3" "profile 1"; do
     keyboard $event
 done

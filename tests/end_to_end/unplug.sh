@@ -4,8 +4,7 @@ source "$(dirname "$0")/scenario.sh"
 
 close_notice() {
     eventually window CAttentionDlg
-    click CAttentionDlg 198 208
-    eventually no_window CAttentionDlg
+    eventually eval "xdotool key Return; no_window CAttentionDlg"
 }
 plug_in() {
     reports_seen=$(wc -l < "$keyboard_log")

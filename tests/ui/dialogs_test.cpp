@@ -119,7 +119,10 @@ TEST_F(KeyMap, MouseFunctionsAreTakenFromTheirRecordsAndAnUnknownOneFallsBack) {
         {{3, 0x03}, "2201 D0"}, {{4, 0x02}, "2201 D5"}, {{9, 0x01}, "2201 D6"}};
     for (const auto& [bytes, code] : records) {
         map(0xD1, [&record = bytes](CDlgBase& dialog) {
+            clickControl(dialog, keymap::mouseField);
+            EXPECT_TRUE(dialog.popups().any());
             choose(dialog, {"", record});
+            EXPECT_FALSE(dialog.popups().any());
             dialog.send(0x414, keymap::mouseField, 4711);
         });
         EXPECT_EQ(owner.received.back(), code);
@@ -151,6 +154,12 @@ TEST_F(Dialogs, ShortcutReportsModifiersInTheirOrderAndTheKey) {
         });
         EXPECT_EQ(result, IDCANCEL);
     }
+    CShortcutDlg real(&owner);
+    playIn(real, [&] {
+        EXPECT_TRUE(testing::hasKeyboard(real));
+        testing::tapKey("F5");
+        EXPECT_TRUE(testing::runUntil([&] { return label(real, keyName) == "F5"; }));
+    });
     EXPECT_THAT(owner.received, ElementsAre("0 Ctrl+Shift+A 060304", "0 Alt 060400", "0 F5 06003E",
                                             "0 Ctrl+Shift+Alt+Win+Z 060F1D", "0 F5 06003E"));
 }

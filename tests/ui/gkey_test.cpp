@@ -2,6 +2,7 @@
 #include "main_window_bench.h"
 #include "skin/selection.h"
 #include "skin/sent.h"
+#include "ui/shortcut_dlg.h"
 
 namespace tarnix {
 namespace {
@@ -70,6 +71,9 @@ TEST_F(GKeyPage, AListBesideTheMenuGivesWayToTheNextAndClosesWithItUnlessThePoin
     point(PopupPlace::Category, multimediaRow);
     point(PopupPlace::Category, webRow);
     EXPECT_FALSE(isOpen(PopupPlace::Multimedia));
+    point(PopupPlace::Category, defaultRow);
+    EXPECT_FALSE(isOpen(PopupPlace::Web));
+    point(PopupPlace::Category, webRow);
     const auto staysOpen = [&](Message closing, LParam kind) {
         window->send(closing, id::gKeyField1, kind);
         return isOpen(PopupPlace::Category) && isOpen(PopupPlace::Web);
@@ -113,17 +117,22 @@ TEST_F(GKeyPage, DialogsAnswerForTheFieldThatOpenedThem) {
         openMenu(id::gKeyField2);
         window->send(wanted, id::gKeyField2);
         expectClosed(id::gKeyField2);
-        EXPECT_TRUE(answered(settle, [](CDlgBase& dialog) { dialog.endModal(IDCANCEL); }));
+        EXPECT_TRUE(answered(settle, [wanted](CDlgBase& dialog) {
+            EXPECT_EQ(dynamic_cast<CShortcutDlg*>(&dialog) != nullptr, wanted == msg::shortcutWanted);
+            dialog.endModal(IDCANCEL);
+        }));
     }
     sendSelection(*window, msg::shortcutChosen, 0, shortcut);
     EXPECT_EQ(slot(1), (GKeySlot{"Ctrl+Shift+A", "", {6, 3, 4}}));
     EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
 
+    window->link().pending().clearAll();
     const std::string path = "/usr/bin/editor";
     const Sent<std::string> sent(path);
     sendSelection(*window, msg::launchChosen, sent.word(), {"editor", {7, 0, 0}});
     sendSelection(*window, msg::launchChosen, 0, {"none", {7, 0, 0}});
     EXPECT_EQ(slot(1), (GKeySlot{"editor", path, {7, 0, 0}}));
+    EXPECT_TRUE(marked(PendingWrites::keyCodeRow));
 }
 
 } // namespace

@@ -68,8 +68,10 @@ TEST_F(MacroPage, ALoopCountOutsideItsRangeBecomesOne) {
               "The range of loop times is 1~255\xA3\xACPlease input again!");
     EXPECT_EQ(set().keys[0].loopCount, 1);
 
+    window->link().pending().m_bMacroLibraryChanged = false;
     click(id::loopCheck);
     EXPECT_EQ(set().keys[0].loopEnable, 0U);
+    EXPECT_TRUE(window->link().pending().m_bMacroLibraryChanged);
     for (const unsigned tab : {id::keyPageTab, id::gKeyPageTab, id::lightingPageTab}) {
         window->send(id::macroPageTab, 0, NOTIFY_CLICK);
         testing::click(field);
@@ -100,11 +102,13 @@ TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
     shell.nextFile = "/home/x.mkf";
     EXPECT_EQ(noticeAt(import), "The Import file is error!");
     set().keys[1].loopCount = 9;
+    set().keys[1].loopEnable = 0;
     click(save);
     EXPECT_THAT(changes(), ElementsAre("replace /home/x.mkf"));
     set().keys[1].loopCount = 1;
     click(import);
     EXPECT_EQ(set().keys[1].loopCount, 9);
+    EXPECT_FALSE(window->control<CCheckButton>(id::loopCheck)->m_bChecked);
     EXPECT_EQ(set().keys[0].loopCount, 1);
     EXPECT_THAT(changes(), ElementsAre("replace " + file("MacroLibraryFile.mlf")));
 
@@ -140,15 +144,17 @@ TEST_F(MacroPage, ANameIsCheckedAndTheListAloneLeavesARefusedOneForCorrection) {
     check("", elsewhere, "");
     check("Enter", enter, "");
     check("Twelve chars", elsewhere, "");
-    check("List", inList, "");
+    check("Twelve in it", inList, "");
     EXPECT_TRUE(window->isVisible()) << "Escape closed the field alone";
     const auto named = [](const char* name) { return ::testing::Field(&MacroKey::name, name); };
-    EXPECT_THAT(set().keys, ElementsAre(named("Roll"), named("Enter"), named("Twelve chars"), named("List")));
-    EXPECT_THAT(changes(), ::testing::Each("replace " + file("MacroLibraryFile.mlf")));
+    EXPECT_THAT(set().keys,
+                ElementsAre(named("Roll"), named("Enter"), named("Twelve chars"), named("Twelve in it")));
+    EXPECT_EQ(changes(), Journal(3, "replace " + file("MacroLibraryFile.mlf")));
     enterName("kept");
     click(id::macroButton2);
     EXPECT_EQ(list().editorText(), "kept") << "a macro is deleted beside it";
     EXPECT_EQ(set().keys.size(), 3U);
+    EXPECT_EQ(list().m_nSelected, -1) << "a second click deletes no other";
 }
 
 TEST_F(MacroPage, ANoticeThatOpensInAPressTakesItsReleaseAndTheNextClickWorks) {
@@ -204,6 +210,9 @@ TEST_F(MacroPage, ListsScrollByWheelAndBarAsFarAsTheirRowsGo) {
     window->send(id::macroScrollBar, 0, NOTIFY_DRAG);
     EXPECT_EQ(list().m_nFirstRow, 3);
     EXPECT_EQ(steps().m_nFirstRow, 0);
+    click(id::macroButton1);
+    window->OnKey({KeyPress::Key::Escape, true});
+    EXPECT_EQ(list().m_nFirstRow, last) << "no line is left for the name";
 }
 
 TEST_F(MacroPage, RecordingReplacesTheMacroWithTheOtherControlsDisabled) {
@@ -239,6 +248,7 @@ TEST_F(MacroPage, AFullMacroEndsItsRecordingBeforeTheNotice) {
                          }));
     EXPECT_EQ(noticeOf([&] { hookEvent(*window, 0x5B, 1001); }), "") << "a straggler brings no second notice";
     EXPECT_EQ(set().keys[0].actionCount, 100U);
+    enterName("keys work again");
 }
 
 } // namespace

@@ -17,6 +17,19 @@ TEST_F(MainWindow, AValueWithoutANameLeavesItsFieldAsItIs) {
     }
 }
 
+TEST_F(MainWindow, EscapeClosesAListOfLights) {
+    g_nMainPage = 3;
+    window->send(id::lightingPageTab, 0, NOTIFY_CLICK);
+    for (const auto& [id, place] : {std::pair{id::lightModeField, PopupPlace::LightMode},
+                                    {id::brightnessField, PopupPlace::LightBrightness},
+                                    {id::speedField, PopupPlace::LightSpeed}}) {
+        click(id);
+        EXPECT_TRUE(field(id).m_bOpen && isOpen(place)) << id;
+        window->OnKey({KeyPress::Key::Escape, true});
+        EXPECT_FALSE(field(id).m_bOpen || isOpen(place)) << id;
+    }
+}
+
 TEST_F(MainWindow, OnlyAClickOnTheLogoOpensItsLinkAndTheEndIsTheFarewellAndTheEndOfTheTrayIcon) {
     for (const LParam code : {NOTIFY_ENTER, NOTIFY_DOWN, NOTIFY_LEAVE})
         window->send(id::logoLink, 0, code);

@@ -59,6 +59,7 @@ TEST_F(ProfileCommands, ApplySendsBeforeItSavesAndSavesAChangedLibraryOnceAndWha
 TEST_F(ProfileCommands, ResetWritesOneProfileAtOnceAndKeepsTheSixthMacroPending) {
     click(id::profileTab2);
     remapF1();
+    clickAndAnswer(2201, dialog::okButton); // which shows and confirms what it does now
     for (int row = 0; row < PendingWrites::rowCount; ++row)
         pending.mark(row, 1);
     pending.mark(0, 0);

@@ -1,4 +1,3 @@
-
 #include "ctl_bench.h"
 #include "macro/macro_files.h"
 #include "profile/configuration_file.h"

@@ -174,8 +174,10 @@ TEST_F(CtlKeyboardTest, ReadTakesProfilesAndMacrosAndLeavesTheKeyboardAsItWas) {
     writeFile("fail", "fail 6\n");
     EXPECT_EQ(withKeyboard({"--commands", path("fail")}, "$CTL read --force new/dir").status, 7);
     EXPECT_EQ(fileText("new/dir/profile1.psf"), "old") << "a failed transfer writes nothing";
-    EXPECT_EQ(withKeyboard({}, "$CTL read --force new/dir").status, 0);
-    EXPECT_THAT(fileText("new/dir/profile1.psf"), HasSubstr("Key0Name=CTRL+1\n"));
+    expected.GKeys[0] = {"Mine", "", keyAssignment(FunctionType::Launch)};
+    writeFile("p.psf", formatProfile(expected));
+    EXPECT_EQ(withKeyboard({}, "$CTL write p.psf --profile 1 && $CTL read --force new/dir").status, 0);
+    EXPECT_THAT(fileText("new/dir/profile1.psf"), HasSubstr("Key0Name=program launch\n"));
     EXPECT_EQ(withKeyboard({}, "$CTL read /dev/null/dir").status, 1);
 }
 

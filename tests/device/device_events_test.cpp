@@ -40,6 +40,7 @@ TEST_F(DeviceEventsTest, LightingChangesAreKeptAsTheyCameInTheActiveProfile) {
     EXPECT_EQ(value(1), "5");
     EXPECT_FALSE(bench.link->pending().isMarked(PendingWrites::lightingRow, 2));
     EXPECT_THAT(bench.files.log, IsEmpty());
+    EXPECT_EQ(bench.event(0x01, 4), (Words{"macros", "show 2"}));
 }
 
 } // namespace

@@ -89,7 +89,7 @@ TEST(DeviceLink, ReplugsLeaveOneListenerAndOneNoticeUntilThatIsClosed) {
             bench.hid.unplug();
             bench.hid.tell(HidChange::Removal);
             EXPECT_EQ(bench.hid.openDevices(), 0);
-            bench.link->pending().m_bMacroLibraryChanged = true;
+            (times == 0 ? bench.macros.saveFailed : bench.link->pending().m_bMacroLibraryChanged) = true;
             bench.replug();
             EXPECT_FALSE(bench.link->pending().m_bMacroLibraryChanged);
             EXPECT_EQ(bench.hid.openDevices(), 2);

@@ -119,6 +119,7 @@ TEST(MacroReport, StepsReadBackAsDelaysBeforeTheirKeys) {
     EXPECT_EQ(received({1, 31, 4, 0x10}), (Actions{delay(2112), press}));
     EXPECT_EQ(received({0, 0xFF, 1, 2, 2, 2, 3, 2, 4, 0x81}), (Actions{delay(1920), release}));
     EXPECT_EQ(received({3, 255, 3, 1, 4, 0}), (Actions{press})) << "65536 ms are none";
+    EXPECT_EQ(received({4, 1, 4, 0x80}), (Actions{delay(8), press, release}));
     EXPECT_EQ(received({4, 0, 1, 9}), (Actions{press})) << "nothing follows the last delay";
     EXPECT_EQ(received({0xE3, 0, 0xC5, 0x80}),
               (Actions{MacroAction::key(0xA5, false), MacroAction::key(0x75, true)}));

@@ -30,6 +30,7 @@ int callsBeforeFault = -1; ///< none is to come
 int faultError = 0;        ///< what the call fails with, or `dies`
 bool faultLasts = false;   ///< all later calls fail, too
 int calls = 0;             ///< since the last count
+int flushes = 0;
 
 bool meetsFault() {
     const bool met =
@@ -59,6 +60,7 @@ ssize_t __wrap_write(int file, const void* bytes, std::size_t size) {
     return fails ? -1 : written;
 }
 int __wrap_fsync(int) {
+    ++flushes;
     return meetsFault() ? -1 : 0; // the system outlives these tests
 }
 int __real_linkat(int, const char* from, int, const char* to, int flags);
@@ -169,6 +171,7 @@ class DiskFaultTest : public testing::Test {
 };
 
 TEST_F(DiskFaultTest, AFailureAtAnyCallKeepsTheOldFileAndLeavesNothingBehind) {
+    EXPECT_EQ(flushes, 4 * texts[0].size()) << "each file and its folder, in both versions";
     int count = 0;
     Texts damaged = texts[1];
     for (const char* name : {"config.ini", "MacroLibraryFile.mlf", "default3.psf"})

@@ -12,7 +12,7 @@ standard input, one a line ("help" lists them). Ends with the program's exit sta
 
   --commands FILE    carry out the commands of FILE first
   --log FILE         write what is printed to FILE, too
-  --seed-macro SPEC  a macro that the keyboard holds at the start; SPEC as after the command "seed"
+  --seed-macro MACRO a macro that the keyboard holds at the start; MACRO as after the command "seed"
   --extra-mouse      another HID device is plugged in
   --unplugged        the keyboard is not plugged in at the start
   --day              a person uses the keyboard, at times of his own

@@ -34,6 +34,7 @@ TEST_F(Pause, PaintsAndKeepsEverythingElseForAfterwardsInOrder) {
         m_window.post(2);
         click({150, 180});
         tapKey("a");
+        std::this_thread::sleep_for(100ms); // what follows does not go by way of the X server
         EXPECT_EQ(write(ends[1], "xy", 2), 2);
         m_window.postClose();
         m_window.post(3);

@@ -85,7 +85,7 @@ class Gallery : public ::testing::Test {
     /// Runs the window, and the scenario in it once the window is active.
     void play(const std::function<void()>& scenario) {
         testing::application().mainLoop().post([&] {
-            testing::hasKeyboard(*bench.window);
+            EXPECT_TRUE(testing::hasKeyboard(*bench.window));
             scenario();
             bench.window->endModal(IDCANCEL);
         });

@@ -19,9 +19,9 @@
 #include <filesystem>
 
 #include "platform/linux/file_descriptor.h"
+#include "platform/posted_work.h"
 #include "virtual/glib_source.h"
 #include "virtual/launcher_bus.h"
-#include "virtual/main_queue.h"
 
 namespace tarnix {
 namespace {
@@ -149,8 +149,8 @@ class DelayedAnswer {
 
 class MockPlug final : public BusPlug {
   public:
-    MockPlug(UMockdevTestbed* testbed, MainQueue& queue, const BusInterface& interface, BusFunction& function,
-             unsigned number)
+    MockPlug(UMockdevTestbed* testbed, PostedWork& queue, const BusInterface& interface,
+             BusFunction& function, unsigned number)
         : m_testbed(testbed),
           m_interface(interface),
           m_function(function),
@@ -215,7 +215,7 @@ class MockPlug final : public BusPlug {
     /// What the test bed has of a plug. It calls from a thread of its own: what it asks is answered from the
     /// main loop, if the plug is still there by then.
     struct Line {
-        MainQueue& queue;
+        PostedWork& queue;
         std::shared_ptr<MockPlug*> plug;
 
         void post(UMockdevIoctlClient* client, void (MockPlug::*handle)(UMockdevIoctlClient*),
@@ -380,7 +380,14 @@ class MockPlug final : public BusPlug {
 
 class MockBus final : public Bus {
   public:
-    MockBus() : m_testbed(umockdev_testbed_new()) {}
+    MockBus()
+        : m_queueWatch(GlibSource::readable(m_queue.descriptor(),
+                                            [this] {
+                                                for (const auto& work : m_queue.take())
+                                                    work();
+                                                return true;
+                                            })),
+          m_testbed(umockdev_testbed_new()) {}
 
     std::unique_ptr<BusPlug> plug(const BusInterface& interface, BusFunction& function) override {
         // A number that was used is not used again: the test bed cannot make the same node twice.
@@ -390,7 +397,8 @@ class MockBus final : public Bus {
     }
 
   private:
-    MainQueue m_queue; ///< outlives the test bed's thread
+    PostedWork m_queue; ///< from the test bed's thread, which it outlives
+    GlibSource m_queueWatch;
     GObjectPtr<UMockdevTestbed> m_testbed;
     unsigned m_nextNode = 0;
 };

@@ -1,7 +1,6 @@
 #include "ctl/poll_loop.h"
 
 #include <poll.h>
-#include <sys/eventfd.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -34,10 +33,9 @@ class PollLoop::Handle final : public Subscription {
     std::shared_ptr<Entry> m_entry;
 };
 
-PollLoop::PollLoop() : m_wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
+PollLoop::PollLoop() = default;
 
 PollLoop::~PollLoop() {
-    ::close(m_wake);
     if (m_signals >= 0) ::close(m_signals);
 }
 
@@ -52,16 +50,6 @@ std::unique_ptr<MainLoop::Subscription> PollLoop::watch(int descriptor, std::fun
 
 std::unique_ptr<MainLoop::Subscription> PollLoop::after(Milliseconds time, std::function<void()> callback) {
     return add({std::move(callback), -1, SteadyClock::now() + time});
-}
-
-void PollLoop::post(std::function<void()> work) {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_posted.push_back(std::move(work));
-    }
-    const std::uint64_t one = 1;
-    // A counter that is full wakes the loop all the same.
-    [[maybe_unused]] const ssize_t written = ::write(m_wake, &one, sizeof one);
 }
 
 std::unique_ptr<MainLoop::Subscription> PollLoop::onInterrupt(std::function<void()> callback) {
@@ -83,13 +71,14 @@ void PollLoop::run() {
         std::erase_if(m_entries, [](const auto& entry) { return !entry->alive; });
         wait();
         callDueTimers();
-        runPosted();
+        for (const auto& work : m_posted.take())
+            work();
     }
 }
 
 /// Sleeps until a descriptor can be read, the next timer is due or work was posted; calls the watches.
 void PollLoop::wait() {
-    std::vector<pollfd> waits{{m_wake, POLLIN, 0}};
+    std::vector<pollfd> waits{{m_posted.descriptor(), POLLIN, 0}};
     Entries watches;
     std::optional<SteadyClock::time_point> next;
     for (const auto& entry : m_entries) {
@@ -117,18 +106,6 @@ void PollLoop::callDueTimers() {
         entry->dueAt.reset();
         entry->callback();
     }
-}
-
-void PollLoop::runPosted() {
-    std::uint64_t count = 0;
-    [[maybe_unused]] const ssize_t taken = ::read(m_wake, &count, sizeof count);
-    std::vector<std::function<void()>> posted;
-    {
-        const std::lock_guard lock(m_mutex);
-        posted.swap(m_posted);
-    }
-    for (const auto& work : posted)
-        work();
 }
 
 Milliseconds SleepingClock::now() {

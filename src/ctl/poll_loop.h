@@ -2,10 +2,11 @@
 #pragma once
 
 #include <cstddef>
-#include <mutex>
+#include <utility>
 #include <vector>
 
 #include "platform/main_loop.h"
+#include "platform/posted_work.h"
 
 namespace tarnix {
 
@@ -18,7 +19,7 @@ class PollLoop final : public MainLoop {
 
     std::unique_ptr<Subscription> watch(int descriptor, std::function<void()> readable) override;
     std::unique_ptr<Subscription> after(Milliseconds time, std::function<void()> callback) override;
-    void post(std::function<void()> work) override;
+    void post(std::function<void()> work) override { m_posted.post(std::move(work)); }
     /// Calls back on SIGINT and SIGTERM, which then do nothing else in this process. To be asked for before
     /// there are threads.
     std::unique_ptr<Subscription> onInterrupt(std::function<void()> callback);
@@ -35,14 +36,11 @@ class PollLoop final : public MainLoop {
     std::unique_ptr<Subscription> add(Entry entry);
     void wait();
     void callDueTimers();
-    void runPosted();
 
     Entries m_entries;
     int m_signals = -1; ///< a signalfd, once interruptions are asked for
-    int m_wake;         ///< an eventfd that posts make readable
     bool m_running = false;
-    std::mutex m_mutex;
-    std::vector<std::function<void()>> m_posted;
+    PostedWork m_posted;
 };
 
 /// Sleeps through its pauses.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <iostream>
 #include <map>
 
 #include "../ui/main_window_bench.h"
@@ -99,6 +100,13 @@ void expectTidy(CDlgBase& window) {
     });
 }
 
+/// Lists the contrast of a text whose colours are fixed.
+void noteContrast(const std::string& name, Window& shown, const Rect& area) {
+    const double found = contrastIn(faceOf(shown)->image(), area);
+    EXPECT_GT(found, visible) << name << " is not there";
+    std::cout << name << ": " << found << '\n';
+}
+
 class Painting : public ::testing::Test, public MainWindowBench {
   protected:
     Painting() {
@@ -111,7 +119,7 @@ class Painting : public ::testing::Test, public MainWindowBench {
         SaveManagerLibrary(macros, files, "/kbd/");
     }
     template <class Popup, class... Args>
-    std::unique_ptr<CListPopup> list(Args&&... args) {
+    std::unique_ptr<CListPopup> popupOf(Args&&... args) {
         auto popup = std::make_unique<Popup>(std::forward<Args>(args)...);
         EXPECT_FALSE(popup->Create(*window, Rect::at(50, 50, 169, 26), 0x7000, 0));
         return popup;
@@ -151,17 +159,19 @@ TEST_F(Painting, KeepsToEveryRectangleAndIsReadable) {
         clickAt(*window, window->GetControl(tab)->GetRect().topLeft());
         expectTidy(*window);
     }
-    EXPECT_GT(contrastIn(faceOf(manager)->image(), Rect::at(27, 98, 143, 20)), visible) << "the selected row";
-    for (const auto& popup : {list<CComboPopup>(), list<CDPIPopup>(), list<CLightBrightnessPopup>()}) {
+    noteContrast("selected list row", manager, Rect::at(27, 98, 143, 20));
+    noteContrast("list row", manager, Rect::at(27, 118, 143, 20));
+    for (const auto& popup :
+         {popupOf<CComboPopup>(), popupOf<CDPIPopup>(), popupOf<CLightBrightnessPopup>()}) {
         expectInside(*popup);
         popup->OnMouseMove(0, popup->rows()[1].rect.topLeft());
-        for (const std::size_t row : {0, 1})
-            EXPECT_GT(contrastIn(faceOf(*popup)->image(), popup->rows()[row].rect), visible);
+        noteContrast("popup row", *popup, popup->rows()[0].rect);
+        noteContrast("highlighted popup row", *popup, popup->rows()[1].rect);
     }
-    expectInside(*list<CMacroSetListPopup>(macros));
+    expectInside(*popupOf<CMacroSetListPopup>(macros));
     COSDDialog display(longText);
     expectInside(display);
-    EXPECT_GT(contrastIn(faceOf(display)->image(), display.clientRect()), visible);
+    noteContrast("on-screen display", display, display.clientRect());
 }
 
 } // namespace

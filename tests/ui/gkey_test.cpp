@@ -1,4 +1,3 @@
-
 #include "main_window_bench.h"
 #include "skin/selection.h"
 #include "skin/sent.h"

@@ -98,7 +98,7 @@ TEST_F(MacroPage, MacrosTravelThroughFilesByTheSelectedRow) {
     click(save);
     click(import);
     EXPECT_THAT(changes(), ElementsAre()) << "cancelled";
-    EXPECT_THAT(shell.asked, ::testing::Each(".mkf mkf file(*.mkf)|*.mkf mkf"));
+    EXPECT_EQ(shell.asked, Journal(2, ".mkf mkf file(*.mkf)|*.mkf mkf"));
     shell.nextFile = "/home/x.mkf";
     EXPECT_EQ(noticeAt(import), "The Import file is error!");
     set().keys[1].loopCount = 9;

@@ -1,14 +1,10 @@
 #include "event_gate.h"
 
-#include <sys/eventfd.h>
-#include <unistd.h>
-
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QWindow>
 #include <algorithm>
-#include <cstdint>
 #include <iterator>
 #include <memory>
 #include <utility>
@@ -69,9 +65,7 @@ bool blockedByModal(QObject* receiver) {
 
 } // namespace
 
-EventGate::EventGate()
-    : m_postsSignal(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
-      m_postsNotifier(m_postsSignal, QSocketNotifier::Read) {
+EventGate::EventGate() {
     g_gate = this;
     connect(&m_postsNotifier, &QSocketNotifier::activated, this, [this] { takePosts(); });
     QCoreApplication::instance()->installEventFilter(this);
@@ -79,8 +73,6 @@ EventGate::EventGate()
 
 EventGate::~EventGate() {
     g_gate = nullptr;
-    m_postsNotifier.setEnabled(false);
-    close(m_postsSignal);
 }
 
 EventGate& EventGate::instance() {
@@ -96,19 +88,8 @@ void EventGate::enter(Work work) {
     askForDelivery();
 }
 
-void EventGate::post(Work work) {
-    const std::lock_guard lock(m_postsMutex);
-    m_posts.push_back(std::move(work));
-    constexpr std::uint64_t one = 1;
-    [[maybe_unused]] const auto written = write(m_postsSignal, &one, sizeof one);
-}
-
 void EventGate::takePosts() {
-    const std::lock_guard lock(m_postsMutex);
-    std::uint64_t count = 0;
-    [[maybe_unused]] const auto got = read(m_postsSignal, &count, sizeof count);
-    std::move(m_posts.begin(), m_posts.end(), std::back_inserter(m_waiting));
-    m_posts.clear();
+    std::ranges::move(m_posts.take(), std::back_inserter(m_waiting));
     askForDelivery();
 }
 

@@ -9,7 +9,9 @@
 #include <QSocketNotifier>
 #include <deque>
 #include <functional>
-#include <mutex>
+#include <utility>
+
+#include "platform/posted_work.h"
 
 namespace tarnix {
 
@@ -25,7 +27,7 @@ class EventGate : public QObject {
     /// Lets the work in now; later when the door is shut or others wait. The user-interface thread only.
     void enter(Work work);
     /// Lets the work in from the event loop, in the order of the posts. From any thread.
-    void post(Work work);
+    void post(Work work) { m_posts.post(std::move(work)); }
 
     /// Shut as long as one of these lives.
     class Shut {
@@ -47,10 +49,8 @@ class EventGate : public QObject {
     void askForDelivery();
     void deliverNext();
 
-    std::mutex m_postsMutex;
-    std::deque<Work> m_posts; ///< not yet seen by the user-interface thread
-    int m_postsSignal;        ///< an event descriptor, readable while there are posts
-    QSocketNotifier m_postsNotifier;
+    PostedWork m_posts; ///< not yet seen by the user-interface thread
+    QSocketNotifier m_postsNotifier{m_posts.descriptor(), QSocketNotifier::Read};
 
     std::deque<Work> m_waiting;
     int m_shut = 0;

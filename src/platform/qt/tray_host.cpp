@@ -52,10 +52,6 @@ TrayHost::~TrayHost() {
         application->removeNativeEventFilter(this);
 }
 
-bool TrayHost::isPresent() const {
-    return m_notifierHost || xembedTray() != 0;
-}
-
 void TrayHost::askNotifierWatcher() {
     auto message = QDBusMessage::createMethodCall(
         watcherName, watcherPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
@@ -75,7 +71,7 @@ void TrayHost::setNotifierHost(bool present) {
 }
 
 void TrayHost::lookForXembedTray() {
-    m_xembedTray = xembedTray();
+    m_xembedTray = watchXembedTray();
     if (m_xembedTray != 0) m_appeared();
 }
 
@@ -89,7 +85,10 @@ bool TrayHost::nativeEventFilter(const QByteArray& type, void* event, qintptr*) 
     }
     if (kind == XCB_DESTROY_NOTIFY) {
         const auto* destroyed = static_cast<const xcb_destroy_notify_event_t*>(event);
-        if (destroyed->window == m_xembedTray) m_absence.start();
+        if (destroyed->window == m_xembedTray) {
+            m_xembedTray = 0;
+            m_absence.start();
+        }
     }
     return false;
 }

@@ -18,7 +18,7 @@ class TrayHost : public QObject, QAbstractNativeEventFilter {
     TrayHost(std::function<void()> appeared, std::function<void()> vanished);
     ~TrayHost() override;
 
-    bool isPresent() const;
+    bool isPresent() const { return m_notifierHost || m_xembedTray != 0; }
 
   private:
     void askNotifierWatcher();

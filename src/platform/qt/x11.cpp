@@ -86,16 +86,21 @@ bool setNativeShape(const QWidget& window, const std::vector<QRect>& outline) {
     return true;
 }
 
-std::uint32_t xembedTray() {
+std::uint32_t watchXembedTray() {
     xcb_connection_t* x11 = connection();
     if (!x11) return 0;
-    const auto cookie = xcb_get_selection_owner(x11, traySelection(x11));
+    const xcb_atom_t selection = traySelection(x11);
+    // It must not go before its end would be heard of.
+    xcb_grab_server(x11);
+    const auto cookie = xcb_get_selection_owner(x11, selection);
     const ReplyPointer<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(x11, cookie, nullptr));
-    if (!reply || reply->owner == XCB_WINDOW_NONE) return 0;
+    const xcb_window_t tray = reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
     constexpr std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-    xcb_change_window_attributes(x11, reply->owner, XCB_CW_EVENT_MASK, &mask);
-    return reply->owner;
+    if (tray != XCB_WINDOW_NONE) xcb_change_window_attributes(x11, tray, XCB_CW_EVENT_MASK, &mask);
+    xcb_ungrab_server(x11);
+    xcb_flush(x11);
+    return tray;
 }
 
 bool announcesXembedTray(std::uint32_t type, std::uint32_t selection) {

@@ -21,7 +21,7 @@ void addInitialState(const QWidget& window, InitialState state);
 /// Gives the window an outline in device pixels, below the toolkit. False where that is not possible.
 bool setNativeShape(const QWidget& window, const std::vector<QRect>& outline);
 /// The window of the display's XEmbed tray; the event loop hears of its end from now on. 0 without one.
-std::uint32_t xembedTray();
+std::uint32_t watchXembedTray();
 /// Whether a client message to the root window says that an XEmbed tray starts: its type and its second
 /// datum.
 bool announcesXembedTray(std::uint32_t type, std::uint32_t selection);
